@@ -1,0 +1,51 @@
+#pragma once
+
+#include "data/engine/Recordset.h"
+#include "data/engine/TableDefs.h"
+#include "data/engine/Workspace.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace sqlite {
+class Connection;
+}
+
+/// A handle on one database file of a workspace. Handles on the same file are counted; the file is let go with the last of them.
+/// After close() every member throws DatabaseError 3420 (object invalid or no longer set). Used on the workspace's thread.
+class Database {
+public:
+    class Impl;
+    explicit Database(std::unique_ptr<Impl> impl); ///< through Workspace::openDatabase
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    /// Full path of the file.
+    std::string name() const;
+    bool isOpen() const;
+    void close();
+
+    /// Runs one statement that is no query, whole or not at all. Throws DatabaseError with number, words and position.
+    void execute(std::string_view statement);
+    /// Rows changed by the last execute().
+    long recordsAffected() const;
+
+    /// Opens a statement or a bare table name. All rows are read at once; no statement stays open on the file.
+    std::shared_ptr<Recordset> openRecordset(std::string_view statementOrTable);
+
+    /// The tables and links of the file. Valid as long as the handle.
+    TableDefs& tableDefs();
+    /// A new table definition, to be filled and appended to tableDefs().
+    TableDef createTableDef(std::string name) const;
+
+    std::shared_ptr<Workspace> workspace() const;
+
+    /// For code that reads in bulk beside the dialect: the connection and the name under which the file is attached to it.
+    sqlite::Connection& connection() const;
+    std::string schema() const;
+
+private:
+    std::unique_ptr<Impl> impl_;
+};

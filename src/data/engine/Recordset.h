@@ -1,0 +1,55 @@
+#pragma once
+
+#include "data/jet/Program.h"
+#include "data/types/Value.h"
+
+#include <memory>
+#include <string_view>
+
+/// The rows of a query, held in memory, with a current row. Edits go to the row of the table they came from, at once.
+/// Positions outside the rows throw DatabaseError 3021 (no current record), unknown fields 3265, edits of rows that belong to no
+/// single table 3027. After close() every member throws 3420.
+class Recordset {
+public:
+    class Impl;
+    explicit Recordset(std::unique_ptr<Impl> impl); ///< through Database::openRecordset
+    ~Recordset();
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
+
+    bool EOF_() const; ///< behind the last row (the plain name is a macro of the C library)
+    bool BOF_() const;
+    long RecordCount() const; ///< exact from the start, as all rows are held
+    long AbsolutePosition() const; ///< of the current row, from 0; -1 where there is none
+
+    void MoveFirst();
+    void MoveLast();
+    void MoveNext();
+    void MovePrevious();
+
+    /// Searches from the first row, or from behind the current row. Where nothing is found NoMatch() is true and the current row
+    /// stays. Throws 3077 for a bad expression.
+    void FindFirst(std::string_view expression);
+    void FindNext(std::string_view expression);
+    bool NoMatch() const;
+
+    int fieldCount() const;
+    const jet::ResultColumn& field(int position) const;
+    /// A value of the current row, or of the row being edited.
+    const Value& value(int position) const;
+    const Value& value(std::string_view field) const;
+
+    void Edit();
+    void AddNew();
+    void set(int position, Value value);
+    void set(std::string_view field, Value value);
+    /// Writes the edited or new row. A new row is appended to the rows; the current row does not move to it.
+    void Update();
+    void CancelUpdate();
+    void Delete();
+    void Requery();
+    void Close();
+
+private:
+    std::unique_ptr<Impl> impl_;
+};

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "data/types/FieldType.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The definition of a table or of a link to a table of another file.
+struct TableDef {
+    std::string name;
+    std::vector<Field> fields;     ///< of a link: those of its source at the last refresh, empty where it cannot be reached
+    std::string connect;           ///< of a link: "MS Access;DATABASE=path;PWD=secret"; empty for a table of the file itself
+    std::string sourceTableName;   ///< of a link
+
+    bool isAttached() const { return !connect.empty(); }
+    bool isSystem() const; ///< MSys…: the engine's own
+    const Field* findField(std::string_view fieldName) const;
+};
+
+/// The tables of one database. Reads the file on refresh() and after every change made through the handle.
+class TableDefs {
+public:
+    class Source; ///< what the list needs of its database
+    explicit TableDefs(Source& source);
+
+    void refresh();
+    std::size_t count() const;
+    const TableDef& at(std::size_t index) const;
+    /// Null where there is no such table. Without case. Valid until the next change or refresh.
+    const TableDef* find(std::string_view name);
+
+    /// Makes the table or link in the file. Throws 3010 where the name exists, 3011/3078 where a link's source does not.
+    void append(const TableDef& definition);
+    /// Drops the table, or the link alone. Throws 3265 where there is none.
+    void remove(std::string_view name);
+    /// Adds a column behind the others. Throws 3191 where it exists.
+    void appendField(std::string_view table, const Field& field);
+
+private:
+    Source& source_;
+    std::vector<TableDef> definitions_;
+    bool fresh_ = false;
+};

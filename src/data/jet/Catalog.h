@@ -1,0 +1,35 @@
+#pragma once
+
+#include "data/types/FieldType.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// A table as the storage library knows it, after links have been followed.
+struct Table {
+    std::string schema;          ///< name under which its file is attached, unquoted
+    std::string name;            ///< its own spelling in that file, unquoted
+    std::vector<Field> columns;  ///< in order
+    std::string link;            ///< the link's name where the statement reached it through one, else empty
+};
+
+/// What the binder asks of the database on which a statement runs. Names are compared without case.
+/// Implementations throw DatabaseError (3024 for a link whose file has moved, naming link and path).
+class Catalog {
+public:
+    virtual ~Catalog() = default;
+    /// The schema in which new tables are made.
+    virtual std::string defaultSchema() const = 0;
+    /// A table, view or link of the database.
+    virtual std::optional<Table> findTable(std::string_view name) = 0;
+    /// `[path].[table]`: attaches the file if need be.
+    virtual std::optional<Table> findTableIn(std::string_view path, std::string_view name) = 0;
+    /// Schema of the file at `path`, for making a table there.
+    virtual std::string schemaOf(std::string_view path) = 0;
+};
+
+} // namespace jet
