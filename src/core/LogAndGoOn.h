@@ -2,8 +2,8 @@
 
 #include <functional>
 
-/// Runs one step of a procedure under the rule "log and go on": an error is written to the error log under gsCurrentProc, and the
-/// caller continues with its next step. Returns whether the step ran to its end.
+/// Runs one step of a procedure under the rule "log and go on": an error is written to the error log under
+/// gsCurrentProc, and the caller continues with its next step. Returns whether the step ran to its end.
 bool logAndGoOn(const std::function<void()>& step);
 
 /// Runs a step whose failure is expected in normal flow (dropping a table that may not exist): errors leave no trace.

@@ -23,15 +23,15 @@ extern std::string gsProjectPassword;                ///< the password with whic
 extern std::shared_ptr<Database> gdbCustomerGroups;  ///< CustomerGroups.mdb
 extern std::shared_ptr<Database> gdbCommunityGroups; ///< comgroups.mdb; opened, never read
 extern std::string gsAccount;                        ///< TallyAccount of the open project
-extern std::shared_ptr<Recordset> grsData1;          ///< shared recordset slot; nothing survives in it between user actions
-extern std::shared_ptr<Recordset> grsData2;          ///< shared recordset slot
-extern std::shared_ptr<Recordset> grsData3;          ///< shared recordset slot
-extern std::string gsCurrentProc;                    ///< name of the running procedure, "<object>_<procedure>"
-extern std::string gsBoundaryType;                   ///< "Exchange", "CSG", "TVRegion", "PostcodeDistrict", "CustomerGroups"
-extern bool gbReportLogo;                            ///< OstelReportLogo.jpg exists in SystemDataPath
-extern bool gbTVPopulation;                          ///< tblTVPopulationDensity has rows
-extern bool gbPostCodePopulation;                    ///< tblPostCodePopulationDensity has rows
-extern double gcCampaignSpend;                       ///< campaign spend of the project, pounds, four decimals
+extern std::shared_ptr<Recordset> grsData1; ///< shared recordset slot; nothing survives in it between user actions
+extern std::shared_ptr<Recordset> grsData2; ///< shared recordset slot
+extern std::shared_ptr<Recordset> grsData3; ///< shared recordset slot
+extern std::string gsCurrentProc;           ///< name of the running procedure, "<object>_<procedure>"
+extern std::string gsBoundaryType;          ///< "Exchange", "CSG", "TVRegion", "PostcodeDistrict", "CustomerGroups"
+extern bool gbReportLogo;                   ///< OstelReportLogo.jpg exists in SystemDataPath
+extern bool gbTVPopulation;                 ///< tblTVPopulationDensity has rows
+extern bool gbPostCodePopulation;           ///< tblPostCodePopulationDensity has rows
+extern double gcCampaignSpend;              ///< campaign spend of the project, pounds, four decimals
 
 /// The selection that the statistics statements paste behind WHERE or AND; empty means all calls of the project.
 extern std::string SelectionSql;

@@ -7,16 +7,16 @@ enum class PromptStyle { Plain = 0, Question = 32, Information = 64, Stop = 16 }
 enum class PromptButtons { Ok, OkCancel, YesNo };
 enum class PromptAnswer { Ok, Cancel, Yes, No };
 
-/// How procedures speak to the user. Windows show message boxes with the program's title, the command line tool prints to
-/// standard error, tests answer from a script. Called on the main thread; returns when the user has answered.
+/// How procedures speak to the user. Windows show message boxes with the program's title, the command line tool prints
+/// to standard error, tests answer from a script. Called on the main thread; returns when the user has answered.
 class Prompts {
 public:
     virtual ~Prompts() = default;
     virtual PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) = 0;
 };
 
-/// The program's prompts. Never null: until one is set, messages go to standard error and questions are answered with the
-/// careful answer (Cancel or No). The caller keeps ownership; pass null to return to the default.
+/// The program's prompts. Never null: until one is set, messages go to standard error and questions are answered with
+/// the careful answer (Cancel or No). The caller keeps ownership; pass null to return to the default.
 Prompts& prompts();
 void setPrompts(Prompts* prompts);
 

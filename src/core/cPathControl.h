@@ -4,17 +4,19 @@
 #include <string>
 #include <string_view>
 
-/// The folders of the installation, read from Paths.txt beside the program file (created there with defaults where it does not
-/// exist). Folder texts are UTF-8 without a closing separator. Construction throws RuntimeError on a file fault.
+/// The folders of the installation, read from Paths.txt beside the program file (created there with defaults where it
+/// does not exist). Folder texts are UTF-8 without a closing separator. Construction throws RuntimeError on a file
+/// fault.
 class cPathControl {
 public:
-    /// `programFolder`: folder of the program file. `commonDataFolder`: the machine-wide data folder; empty lets the system
-    /// decide (commonApplicationDataFolder()).
+    /// `programFolder`: folder of the program file. `commonDataFolder`: the machine-wide data folder; empty lets the
+    /// system decide (commonApplicationDataFolder()).
     explicit cPathControl(const std::string& programFolder, const std::string& commonDataFolder = {});
 
-    std::string ApplicationDataPath; ///< key AppFolder: ukmap.mdb, CustomerGroups.mdb, comgroups.mdb, history, error log
-    std::string ProjectDataPath;     ///< key ProjectFolder: first folder of the project dialogue
-    std::string BackupFolderPath;    ///< key BackupFolder
+    std::string
+        ApplicationDataPath;      ///< key AppFolder: ukmap.mdb, CustomerGroups.mdb, comgroups.mdb, history, error log
+    std::string ProjectDataPath;  ///< key ProjectFolder: first folder of the project dialogue
+    std::string BackupFolderPath; ///< key BackupFolder
     std::string ApplicationRootPath; ///< key SystemFolder: the installation; the help file
     std::string AccountDataPath;     ///< key AccountFolder
     std::string SystemDataPath;      ///< no key: delivered files (UKMap.BAK, CSProject.bak, fonts, logo)

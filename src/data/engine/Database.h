@@ -12,8 +12,9 @@ namespace sqlite {
 class Connection;
 }
 
-/// A handle on one database file of a workspace. Handles on the same file are counted; the file is let go with the last of them.
-/// After close() every member throws DatabaseError 3420 (object invalid or no longer set). Used on the workspace's thread.
+/// A handle on one database file of a workspace. Handles on the same file are counted; the file is let go with the last
+/// of them. After close() every member throws DatabaseError 3420 (object invalid or no longer set). Used on the
+/// workspace's thread.
 class Database {
 public:
     class Impl;
@@ -42,7 +43,8 @@ public:
 
     std::shared_ptr<Workspace> workspace() const;
 
-    /// For code that reads in bulk beside the dialect: the connection and the name under which the file is attached to it.
+    /// For code that reads in bulk beside the dialect: the connection and the name under which the file is attached to
+    /// it.
     sqlite::Connection& connection() const;
     std::string schema() const;
 

@@ -7,8 +7,8 @@
 #include <string_view>
 
 /// The rows of a query, held in memory, with a current row. Edits go to the row of the table they came from, at once.
-/// Positions outside the rows throw DatabaseError 3021 (no current record), unknown fields 3265, edits of rows that belong to no
-/// single table 3027. After close() every member throws 3420.
+/// Positions outside the rows throw DatabaseError 3021 (no current record), unknown fields 3265, edits of rows that
+/// belong to no single table 3027. After close() every member throws 3420.
 class Recordset {
 public:
     class Impl;
@@ -19,7 +19,7 @@ public:
 
     bool EOF_() const; ///< behind the last row (the plain name is a macro of the C library)
     bool BOF_() const;
-    long RecordCount() const; ///< exact from the start, as all rows are held
+    long RecordCount() const;      ///< exact from the start, as all rows are held
     long AbsolutePosition() const; ///< of the current row, from 0; -1 where there is none
 
     void MoveFirst();
@@ -27,8 +27,8 @@ public:
     void MoveNext();
     void MovePrevious();
 
-    /// Searches from the first row, or from behind the current row. Where nothing is found NoMatch() is true and the current row
-    /// stays. Throws 3077 for a bad expression.
+    /// Searches from the first row, or from behind the current row. Where nothing is found NoMatch() is true and the
+    /// current row stays. Throws 3077 for a bad expression.
     void FindFirst(std::string_view expression);
     void FindNext(std::string_view expression);
     bool NoMatch() const;

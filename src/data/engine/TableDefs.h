@@ -10,9 +10,9 @@
 /// The definition of a table or of a link to a table of another file.
 struct TableDef {
     std::string name;
-    std::vector<Field> fields;     ///< of a link: those of its source at the last refresh, empty where it cannot be reached
-    std::string connect;           ///< of a link: "MS Access;DATABASE=path;PWD=secret"; empty for a table of the file itself
-    std::string sourceTableName;   ///< of a link
+    std::vector<Field> fields; ///< of a link: those of its source at the last refresh, empty where it cannot be reached
+    std::string connect; ///< of a link: "MS Access;DATABASE=path;PWD=secret"; empty for a table of the file itself
+    std::string sourceTableName; ///< of a link
 
     bool isAttached() const { return !connect.empty(); }
     bool isSystem() const; ///< MSys…: the engine's own
@@ -31,7 +31,8 @@ public:
     /// Null where there is no such table. Without case. Valid until the next change or refresh.
     const TableDef* find(std::string_view name);
 
-    /// Makes the table or link in the file. Throws 3010 where the name exists, 3011/3078 where a link's source does not.
+    /// Makes the table or link in the file. Throws 3010 where the name exists, 3011/3078 where a link's source does
+    /// not.
     void append(const TableDef& definition);
     /// Drops the table, or the link alone. Throws 3265 where there is none.
     void remove(std::string_view name);

@@ -6,8 +6,8 @@
 
 class Database;
 
-/// A session with the storage engine: one connection to which each database file is attached once, so that statements reach
-/// across files and no two handles of this process lock each other out. Used on one thread.
+/// A session with the storage engine: one connection to which each database file is attached once, so that statements
+/// reach across files and no two handles of this process lock each other out. Used on one thread.
 ///
 /// Connect strings are those of the engine: "MS Access;PWD=secret"; only PWD and DATABASE are read, keys in any case.
 class Workspace : public std::enable_shared_from_this<Workspace> {
@@ -19,9 +19,9 @@ public:
 
     enum class Access { Shared, Exclusive, ReadOnly };
 
-    /// Opens a file. Throws DatabaseError, each text naming the path: 3024 where there is none, 3031 for a wrong or missing
-    /// password, 3356 where another process has it locked, 3343 where it is no database of this kind, 3049 where it is damaged.
-    /// A file without a password opens with any connect string. Nothing on disk is changed.
+    /// Opens a file. Throws DatabaseError, each text naming the path: 3024 where there is none, 3031 for a wrong or
+    /// missing password, 3356 where another process has it locked, 3343 where it is no database of this kind, 3049
+    /// where it is damaged. A file without a password opens with any connect string. Nothing on disk is changed.
     std::shared_ptr<Database> openDatabase(const std::string& path, Access access = Access::Shared,
                                            std::string_view connect = {});
 

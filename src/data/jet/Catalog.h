@@ -11,10 +11,10 @@ namespace jet {
 
 /// A table as the storage library knows it, after links have been followed.
 struct Table {
-    std::string schema;          ///< name under which its file is attached, unquoted
-    std::string name;            ///< its own spelling in that file, unquoted
-    std::vector<Field> columns;  ///< in order
-    std::string link;            ///< the link's name where the statement reached it through one, else empty
+    std::string schema;         ///< name under which its file is attached, unquoted
+    std::string name;           ///< its own spelling in that file, unquoted
+    std::vector<Field> columns; ///< in order
+    std::string link;           ///< the link's name where the statement reached it through one, else empty
 };
 
 /// What the binder asks of the database on which a statement runs. Names are compared without case.

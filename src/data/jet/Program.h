@@ -31,12 +31,13 @@ struct Step {
 /// A statement of the dialect translated for the storage library.
 struct Program {
     bool isQuery = false;
-    std::string query;                  ///< of a query: one SELECT
-    std::vector<ResultColumn> columns;  ///< of a query
-    std::vector<Step> steps;            ///< of anything else; all of them or none (the engine wraps them in a savepoint)
-    bool changesSchema = false;         ///< a table or link was made, changed or dropped
-    /// Of a query over one table without grouping, DISTINCT or UNION: the table whose rows it shows. The engine then asks for
-    /// the row numbers with `rowidQuery`, the same query with the table's rowid as first column, and can edit the rows.
+    std::string query;                 ///< of a query: one SELECT
+    std::vector<ResultColumn> columns; ///< of a query
+    std::vector<Step> steps;           ///< of anything else; all of them or none (the engine wraps them in a savepoint)
+    bool changesSchema = false;        ///< a table or link was made, changed or dropped
+    /// Of a query over one table without grouping, DISTINCT or UNION: the table whose rows it shows. The engine then
+    /// asks for the row numbers with `rowidQuery`, the same query with the table's rowid as first column, and can edit
+    /// the rows.
     std::optional<Table> updatable;
     std::string rowidQuery;
 };

@@ -9,8 +9,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// A thin owner layer over the storage library: constructor opens or prepares, destructor closes or finalises; failures are
-/// exceptions. One thread at a time.
+/// A thin owner layer over the storage library: constructor opens or prepares, destructor closes or finalises; failures
+/// are exceptions. One thread at a time.
 namespace sqlite {
 
 /// Throws DatabaseError for a result code of the library, with its words. `context` stands in front of them.
@@ -50,9 +50,9 @@ public:
     void bindNull(int parameter);
     void bind(int parameter, std::int64_t value);
     void bind(int parameter, double value);
-    void bind(int parameter, std::string_view text);                  ///< copied
-    void bindStatic(int parameter, std::string_view text);            ///< must outlive the next step()
-    void bind(int parameter, std::span<const std::byte> bytes);       ///< copied
+    void bind(int parameter, std::string_view text);            ///< copied
+    void bindStatic(int parameter, std::string_view text);      ///< must outlive the next step()
+    void bind(int parameter, std::span<const std::byte> bytes); ///< copied
 
     int columnCount() const;
     std::string columnName(int column) const;
@@ -60,8 +60,8 @@ public:
     bool isNull(int column) const;
     std::int64_t integer(int column) const;
     double real(int column) const;
-    std::string_view text(int column) const;              ///< until the next step
-    std::span<const std::byte> bytes(int column) const;   ///< until the next step
+    std::string_view text(int column) const;            ///< until the next step
+    std::span<const std::byte> bytes(int column) const; ///< until the next step
     sqlite3_stmt* handle() const { return handle_; }
 
 private:

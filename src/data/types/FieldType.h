@@ -6,8 +6,8 @@
 
 /// The engine's column types. How each lies in a file:
 /// Boolean -1/0; Byte, Integer (16 bit), Long (32 bit) integers; Currency, Single, Double, Date reals (Date: days since
-/// 30 December 1899, the fraction is the time of day; Currency: rounded to four decimals); Text and Memo UTF-8 under collation
-/// JET; LongBinary bytes.
+/// 30 December 1899, the fraction is the time of day; Currency: rounded to four decimals); Text and Memo UTF-8 under
+/// collation JET; LongBinary bytes.
 enum class FieldType { Boolean, Byte, Integer, Long, Currency, Single, Double, Date, Text, Memo, LongBinary };
 
 bool isNumeric(FieldType type); ///< Boolean to Double; not Date
@@ -23,8 +23,8 @@ struct Field {
     std::optional<std::string> defaultValue; ///< as an expression of the dialect: "0", "'x'"
 };
 
-/// The type as it is declared in the file, for example "TEXT(50)" or "DATETIME REAL", and back (nothing where it is none of ours).
-/// A Text or Memo without zero length is declared as "NONEMPTYTEXT(50)", "NONEMPTYMEMO TEXT".
+/// The type as it is declared in the file, for example "TEXT(50)" or "DATETIME REAL", and back (nothing where it is
+/// none of ours). A Text or Memo without zero length is declared as "NONEMPTYTEXT(50)", "NONEMPTYMEMO TEXT".
 std::string declaredType(const Field& field);
 std::optional<Field> fieldOfDeclaredType(std::string_view declared);
 

@@ -10,7 +10,8 @@
 /// Fixed-point money, four decimals.
 struct Money {
     std::int64_t tenThousandths = 0;
-    static Money fromDouble(double pounds); ///< rounds half to even at the fourth decimal; throws RuntimeError 6 on overflow
+    static Money
+    fromDouble(double pounds); ///< rounds half to even at the fourth decimal; throws RuntimeError 6 on overflow
     double toDouble() const { return static_cast<double>(tenThousandths) / 10000.0; }
     friend bool operator==(const Money&, const Money&) = default;
 };
@@ -24,8 +25,8 @@ struct Date {
 using Bytes = std::vector<std::byte>;
 
 /// One value of a row or of an expression. Null is its own state, apart from empty text.
-/// The as… functions convert as the dialect does and throw RuntimeError: 94 on null, 13 where the text is no such value,
-/// 6 on overflow.
+/// The as… functions convert as the dialect does and throw RuntimeError: 94 on null, 13 where the text is no such
+/// value, 6 on overflow.
 class Value {
 public:
     using Storage = std::variant<std::monostate, bool, std::int64_t, double, Money, Date, std::string, Bytes>;
@@ -55,8 +56,8 @@ public:
     Money asMoney() const;
     Date asDate() const;
     const Bytes& asBytes() const; ///< throws 13 unless it holds bytes
-    /// As `&` writes it: numbers in their shortest decimal text, booleans "True"/"False", dates "dd/mm/yyyy hh:mm:ss" (the
-    /// time left out at midnight, the date left out for day 0). Null gives the empty text.
+    /// As `&` writes it: numbers in their shortest decimal text, booleans "True"/"False", dates "dd/mm/yyyy hh:mm:ss"
+    /// (the time left out at midnight, the date left out for day 0). Null gives the empty text.
     std::string asText() const;
 
     friend bool operator==(const Value&, const Value&) = default; ///< same kind and same bits; not the dialect's `=`
@@ -74,8 +75,8 @@ struct DateParts {
 };
 DateParts partsOf(Date date);
 Date dateOf(const DateParts& parts);
-/// Parses "31/12/2025", "31/12/2025 17:05", "2025-12-31", "17:05:09", "5 Jan 2025", "01/Jan/1800". `monthFirst`: as between # signs.
-/// Throws RuntimeError 13 where the text is no date.
+/// Parses "31/12/2025", "31/12/2025 17:05", "2025-12-31", "17:05:09", "5 Jan 2025", "01/Jan/1800". `monthFirst`: as
+/// between # signs. Throws RuntimeError 13 where the text is no date.
 Date parseDate(std::string_view text, bool monthFirst = false);
 
 /// The order of texts everywhere in the system: without case, trailing blanks ignored (collation JET).
