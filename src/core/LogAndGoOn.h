@@ -8,3 +8,7 @@ bool logAndGoOn(const std::function<void()>& step);
 
 /// Runs a step whose failure is expected in normal flow (dropping a table that may not exist): errors leave no trace.
 bool ignoreErrors(const std::function<void()>& step);
+
+/// For a handler of its own, inside a catch block only: writes the error being handled to the error log under
+/// gsCurrentProc.
+void logCurrentError() noexcept;

@@ -1,0 +1,42 @@
+#include "core/Prompts.h"
+
+#include <iostream>
+
+namespace {
+
+class StandardErrorPrompts : public Prompts {
+public:
+    PromptAnswer messageBox(const std::string& text, PromptStyle /*style*/, PromptButtons buttons) override {
+        std::cerr << text << '\n';
+        switch (buttons) {
+        case PromptButtons::OkCancel:
+            return PromptAnswer::Cancel;
+        case PromptButtons::YesNo:
+            return PromptAnswer::No;
+        case PromptButtons::Ok:
+            break;
+        }
+        return PromptAnswer::Ok;
+    }
+};
+
+StandardErrorPrompts standardErrorPrompts;
+Prompts* currentPrompts = &standardErrorPrompts;
+
+} // namespace
+
+Prompts& prompts() {
+    return *currentPrompts;
+}
+
+void setPrompts(Prompts* prompts) {
+    currentPrompts = prompts ? prompts : &standardErrorPrompts;
+}
+
+void showMessage(const std::string& text, PromptStyle style) {
+    prompts().messageBox(text, style, PromptButtons::Ok);
+}
+
+bool askYesNo(const std::string& text, PromptStyle style) {
+    return prompts().messageBox(text, style, PromptButtons::YesNo) == PromptAnswer::Yes;
+}
