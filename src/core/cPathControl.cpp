@@ -92,8 +92,11 @@ void cPathControl::createDefaults(const std::filesystem::path& file, const std::
 
 void cPathControl::read(const std::filesystem::path& file) {
     std::ifstream in(file);
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF"; // text editors put it there
     std::string line;
     while (std::getline(in, line)) {
+        if (line.starts_with(byteOrderMark))
+            line.erase(0, byteOrderMark.size());
         const std::size_t equals = line.find('=');
         if (equals == std::string::npos)
             continue;
