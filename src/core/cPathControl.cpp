@@ -120,6 +120,11 @@ std::string commonApplicationDataFolder() {
 #endif
 }
 
+std::string portableSystemFolder(std::string_view pathsFolder) {
+    const std::string folder = joinPath(folderText(pathsFolder), "system");
+    return isFolder(toPath(folder)) ? folder : std::string();
+}
+
 std::filesystem::path toPath(std::string_view utf8) {
     std::u8string text(utf8.begin(), utf8.end());
     if constexpr (std::filesystem::path::preferred_separator == '/')

@@ -34,6 +34,10 @@ private:
 /// The machine-wide data folder: /var/lib where it is writable or already holds Callscope, else the user's data home.
 std::string commonApplicationDataFolder();
 
+/// An installation that lies whole in one folder, with its Paths.txt, keeps the delivered files in "system" beside it.
+/// That folder, or empty where there is none.
+std::string portableSystemFolder(std::string_view pathsFolder);
+
 /// UTF-8 text to a path and back; both kinds of separator are understood on input.
 std::filesystem::path toPath(std::string_view utf8);
 std::string toText(const std::filesystem::path& path);

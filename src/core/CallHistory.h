@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// CallHistory.csv keeps the recent projects, one double-quoted text a line: first "More files ..", then up to ten full
+/// paths, the latest first.
+namespace CallHistory {
+
+inline constexpr std::string_view fileName = "CallHistory.csv";
+inline constexpr std::string_view moreFiles = "More files ..";
+inline constexpr int mostRows = 10; ///< rows that the list shows, "More files .." among them
+
+/// The lines of the file without quotes, at most mostRows. Without a file, or with one that cannot be read, "More files
+/// .." alone.
+std::vector<std::string> readRows(const std::string& file);
+
+/// How a row shows a path of more than 30 characters: its first three, "..", and what follows the last separator but
+/// one. "C:\Data\Projects\Customer\March.mdb" shows as "C:\..Customer\March.mdb". Others show as they are.
+std::string shortened(std::string_view path);
+
+} // namespace CallHistory
