@@ -2,6 +2,8 @@
 
 #include "data/types/FieldType.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,15 +21,26 @@ struct TableDef {
     const Field* findField(std::string_view fieldName) const;
 };
 
-/// The tables of one database. Reads the file on refresh() and after every change made through the handle.
+/// The tables and links of one database, read from the file when first asked and again whenever they have changed.
 class TableDefs {
 public:
-    class Source; ///< what the list needs of its database
+    /// What the list needs of its database.
+    class Source {
+    public:
+        virtual ~Source() = default;
+        virtual std::vector<TableDef> readDefinitions() = 0;
+        virtual std::vector<Field> fieldsOfLink(const TableDef& link) = 0;
+        virtual void create(const TableDef& definition) = 0;
+        virtual void remove(const TableDef& definition) = 0;
+        virtual void addField(const std::string& table, const Field& field) = 0;
+        /// A number that changes whenever the definitions may have.
+        virtual std::int64_t changeStamp() = 0;
+    };
     explicit TableDefs(Source& source);
 
     void refresh();
-    std::size_t count() const;
-    const TableDef& at(std::size_t index) const;
+    std::size_t count();
+    const TableDef& at(std::size_t index);
     /// Null where there is no such table. Without case. Valid until the next change or refresh.
     const TableDef* find(std::string_view name);
 
@@ -40,7 +53,10 @@ public:
     void appendField(std::string_view table, const Field& field);
 
 private:
+    void refreshIfChanged();
+    const TableDef& withFields(TableDef& definition);
+
     Source& source_;
     std::vector<TableDef> definitions_;
-    bool fresh_ = false;
+    std::int64_t stamp_ = -1;
 };

@@ -1,0 +1,65 @@
+#include "data/engine/Database.h"
+
+#include "data/engine/DatabaseImpl.h"
+#include "data/engine/RecordsetImpl.h"
+#include "data/types/DatabaseError.h"
+
+Database::Database(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+Database::~Database() = default;
+
+std::string Database::name() const {
+    impl_->file();
+    return impl_->path;
+}
+bool Database::isOpen() const {
+    return impl_->attached != nullptr;
+}
+void Database::close() {
+    impl_->file();
+    impl_->close();
+}
+
+void Database::execute(std::string_view statement) {
+    impl_->file();
+    const jet::Program program = jet::translate(statement, *impl_);
+    if (program.isQuery)
+        throw DatabaseError(3065, "A query that shows rows cannot be executed; open it as a recordset");
+    impl_->run(program);
+}
+
+long Database::recordsAffected() const {
+    return impl_->recordsAffected;
+}
+
+std::shared_ptr<Recordset> Database::openRecordset(std::string_view statementOrTable) {
+    impl_->file();
+    jet::Program program = jet::translate(statementOrTable, *impl_);
+    if (!program.isQuery)
+        throw DatabaseError(3219, "A statement that changes data shows no rows; execute it");
+    if (impl_->readOnly)
+        program.updatable.reset();
+    auto rows = std::make_unique<Recordset::Impl>(impl_->attached, std::move(program));
+    rows->query();
+    return std::make_shared<Recordset>(std::move(rows));
+}
+
+TableDefs& Database::tableDefs() {
+    impl_->file();
+    return impl_->tableDefs;
+}
+
+TableDef Database::createTableDef(std::string tableName) const {
+    TableDef definition;
+    definition.name = std::move(tableName);
+    return definition;
+}
+
+std::shared_ptr<Workspace> Database::workspace() const {
+    return impl_->workspace;
+}
+sqlite::Connection& Database::connection() const {
+    return impl_->file().connection();
+}
+std::string Database::schema() const {
+    return impl_->file().schema();
+}

@@ -1,0 +1,219 @@
+#include "data/engine/DatabaseImpl.h"
+
+#include "core/cPathControl.h"
+#include "data/engine/WorkspaceImpl.h"
+#include "data/types/DatabaseError.h"
+#include "data/types/Value.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+/// A link may lead to a link; a ring of links must end.
+constexpr int deepestLink = 8;
+} // namespace
+
+Database::Impl::Impl(std::shared_ptr<Workspace> owner, std::shared_ptr<AttachedFile> file, std::string openedPath,
+                     bool only)
+    : workspace(std::move(owner)), attached(std::move(file)), path(std::move(openedPath)), readOnly(only),
+      tableDefs(*this) {}
+
+Database::Impl::~Impl() {
+    close();
+}
+
+void Database::Impl::close() {
+    attached.reset();
+    workspace->impl().detachUnused();
+}
+
+AttachedFile& Database::Impl::file() const {
+    if (!attached)
+        throw DatabaseError(3420, "Object invalid or no longer set");
+    return *attached;
+}
+
+void Database::Impl::refuseWhereReadOnly() const {
+    if (readOnly)
+        throw DatabaseError(3027, "The database '" + path + "' is open for reading only");
+}
+
+std::string Database::Impl::defaultSchema() const {
+    return file().schema();
+}
+
+std::optional<jet::Table> Database::Impl::findTable(std::string_view name) {
+    return findIn(file(), name, 0);
+}
+
+std::optional<jet::Table> Database::Impl::findIn(AttachedFile& from, std::string_view name, int depth) {
+    const std::string key = foldText(name);
+    const auto& tables = from.tables();
+    if (const auto table = tables.find(key); table != tables.end())
+        return table->second;
+    const auto& links = from.links();
+    if (const auto link = links.find(key); link != links.end())
+        return followLink(from, AttachedFile::Link(link->second), depth);
+    return std::nullopt;
+}
+
+std::optional<jet::Table> Database::Impl::followLink(AttachedFile& from, const AttachedFile::Link& link, int depth) {
+    const ConnectString connect = ConnectString::parse(link.connect);
+    if (depth >= deepestLink)
+        throw DatabaseError(3078, "The attached table '" + link.name + "' leads to itself");
+    auto& held = from.linkedFiles;
+    std::shared_ptr<AttachedFile> target;
+    try {
+        target = workspace->impl().attach(connect.database, connect.password);
+    } catch (const DatabaseError& error) {
+        std::erase_if(held, [&](const auto& other) { return other->path() == canonicalPath(connect.database); });
+        throw DatabaseError(error.number(),
+                            "The attached table '" + link.name + "' cannot be reached: " + error.description());
+    }
+    if (target.get() != &from && std::find(held.begin(), held.end(), target) == held.end())
+        held.push_back(target);
+    auto table = findIn(*target, link.sourceTable, depth + 1);
+    if (!table)
+        throw DatabaseError(3078, "The attached table '" + link.name + "' has lost its source '" + link.sourceTable +
+                                      "' in '" + connect.database + "'");
+    table->link = link.name;
+    return table;
+}
+
+AttachedFile& Database::Impl::otherFile(std::string_view otherPath) {
+    const std::string text(otherPath);
+    if (canonicalPath(text) == file().path())
+        return file();
+    // A path inside a statement carries no password: the file must have none or be open already.
+    auto other = workspace->impl().attached(text);
+    if (!other || !std::filesystem::exists(toPath(text)))
+        other = workspace->impl().attach(text, {});
+    auto& held = file().linkedFiles;
+    if (std::find(held.begin(), held.end(), other) == held.end())
+        held.push_back(other);
+    return *other;
+}
+
+std::optional<jet::Table> Database::Impl::findTableIn(std::string_view otherPath, std::string_view name) {
+    return findIn(otherFile(otherPath), name, 0);
+}
+
+std::string Database::Impl::schemaOf(std::string_view otherPath) {
+    return otherFile(otherPath).schema();
+}
+
+std::vector<TableDef> Database::Impl::readDefinitions() {
+    std::vector<TableDef> definitions;
+    for (const auto& [key, table] : file().tables()) {
+        TableDef definition;
+        definition.name = table.name;
+        definition.fields = table.columns;
+        definitions.push_back(std::move(definition));
+    }
+    for (const auto& [key, link] : file().links()) {
+        TableDef definition;
+        definition.name = link.name;
+        definition.connect = link.connect;
+        definition.sourceTableName = link.sourceTable;
+        definitions.push_back(std::move(definition));
+    }
+    return definitions;
+}
+
+std::vector<Field> Database::Impl::fieldsOfLink(const TableDef& link) {
+    try {
+        const auto table = findTable(link.name);
+        return table ? table->columns : std::vector<Field>();
+    } catch (const DatabaseError&) {
+        return {};
+    }
+}
+
+void Database::Impl::create(const TableDef& definition) {
+    refuseWhereReadOnly();
+    const std::string key = foldText(definition.name);
+    if (file().tables().contains(key) || file().links().contains(key))
+        throw DatabaseError(3010, "Table '" + definition.name + "' already exists");
+    if (isSystemTable(definition.name) || key.empty())
+        throw DatabaseError(3125, "'" + definition.name + "' is not a valid name for a table");
+    if (definition.isAttached()) {
+        const AttachedFile::Link link{definition.name, definition.sourceTableName, definition.connect};
+        followLink(file(), link, 0); // a link that leads nowhere is refused
+        file().addLink(link);
+        return;
+    }
+    if (definition.fields.empty())
+        throw DatabaseError(3264, "Table '" + definition.name + "' has no fields");
+    std::string sql = "CREATE TABLE " + file().schema() + "." + quoteIdentifier(definition.name) + " (";
+    for (std::size_t i = 0; i < definition.fields.size(); ++i)
+        sql += (i == 0 ? "" : ", ") + columnDefinition(definition.fields[i]);
+    file().connection().execute(sql + ")");
+    file().invalidate();
+}
+
+void Database::Impl::remove(const TableDef& definition) {
+    refuseWhereReadOnly();
+    if (definition.isAttached()) {
+        file().removeLink(definition.name);
+        return;
+    }
+    const auto table = findTable(definition.name);
+    if (!table)
+        throw DatabaseError(3265, "There is no table '" + definition.name + "'");
+    sqlite::Statement kind(file().connection(),
+                           "SELECT type FROM " + file().schema() + ".sqlite_schema WHERE name = ?");
+    kind.bind(1, table->name);
+    const bool isView = kind.step() && kind.text(0) == "view";
+    kind.reset();
+    file().connection().execute((isView ? "DROP VIEW " : "DROP TABLE ") + file().schema() + "." +
+                                quoteIdentifier(table->name));
+    file().invalidate();
+}
+
+void Database::Impl::addField(const std::string& name, const Field& field) {
+    refuseWhereReadOnly();
+    const auto table = findTable(name);
+    if (!table)
+        throw DatabaseError(3078, "Could not find the table or query '" + name + "'");
+    for (const Field& other : table->columns) {
+        if (equalText(other.name, field.name))
+            throw DatabaseError(3191, "Field '" + field.name + "' already exists in table '" + name + "'");
+    }
+    file().connection().execute("ALTER TABLE " + table->schema + "." + quoteIdentifier(table->name) + " ADD COLUMN " +
+                                columnDefinition(field));
+    file().invalidate();
+}
+
+std::int64_t Database::Impl::changeStamp() {
+    file().tables(); // looks whether the file has changed
+    return file().generation();
+}
+
+void Database::Impl::run(const jet::Program& program) {
+    refuseWhereReadOnly();
+    try {
+        sqlite::Savepoint savepoint(file().connection());
+        recordsAffected = runSteps(program);
+        savepoint.release();
+    } catch (...) {
+        workspace->impl().invalidateSchemas();
+        throw;
+    }
+    if (program.changesSchema)
+        workspace->impl().invalidateSchemas();
+}
+
+long Database::Impl::runSteps(const jet::Program& program) {
+    sqlite::Connection& connection = file().connection();
+    long affected = 0;
+    for (const jet::Step& step : program.steps) {
+        if (step.kind == jet::Step::Kind::DropLink) {
+            file().removeLink(step.sql);
+            continue;
+        }
+        connection.execute(step.sql);
+        if (step.kind == jet::Step::Kind::Count)
+            affected += static_cast<long>(connection.changes());
+    }
+    return affected;
+}

@@ -1,0 +1,141 @@
+#include "data/engine/RecordsetImpl.h"
+
+#include "data/engine/RowValue.h"
+#include "data/jet/Search.h"
+#include "data/types/DatabaseError.h"
+
+Recordset::Impl::Impl(std::shared_ptr<AttachedFile> attachedFile, jet::Program translated)
+    : file(std::move(attachedFile)), program(std::move(translated)) {}
+
+void Recordset::Impl::query() {
+    const bool withRowid = program.updatable.has_value();
+    sqlite::Statement statement(file->connection(), withRowid ? program.rowidQuery : program.query);
+    const int first = withRowid ? 1 : 0;
+    std::vector<Value> readCells;
+    std::vector<std::int64_t> readRowids;
+    long count = 0;
+    while (statement.step()) {
+        if (withRowid)
+            readRowids.push_back(statement.integer(0));
+        for (int column = 0; column < columns(); ++column)
+            readCells.push_back(
+                readValue(statement, first + column, program.columns[static_cast<std::size_t>(column)]));
+        ++count;
+    }
+    cells = std::move(readCells);
+    rowids = std::move(readRowids);
+    rows = count;
+    cursor = 0;
+    noMatch = false;
+    deleted = false;
+    editing = Editing::None;
+}
+
+void Recordset::Impl::requireOpen() const {
+    if (!file)
+        throw DatabaseError(3420, "Object invalid or no longer set");
+}
+
+void Recordset::Impl::requireRow() const {
+    requireOpen();
+    if (cursor < 0 || cursor >= rows || deleted)
+        throw DatabaseError(3021, "No current record");
+}
+
+void Recordset::Impl::requireEditable() const {
+    if (!program.updatable)
+        throw DatabaseError(3027, "The rows belong to no single table and cannot be changed");
+}
+
+int Recordset::Impl::find(std::string_view field) const {
+    if (field.size() > 2 && field.front() == '[' && field.back() == ']')
+        field = field.substr(1, field.size() - 2);
+    for (std::size_t i = 0; i < program.columns.size(); ++i) {
+        if (equalText(program.columns[i].name, field))
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+int Recordset::Impl::position(std::string_view field) const {
+    const int found = find(field);
+    if (found < 0)
+        throw DatabaseError(3265, "There is no field '" + std::string(field) + "' in the rows");
+    return found;
+}
+
+const Value& Recordset::Impl::cell(long row, int column) const {
+    return cells[static_cast<std::size_t>(row) * program.columns.size() + static_cast<std::size_t>(column)];
+}
+
+const Field& Recordset::Impl::tableField(int column) const {
+    const std::string& name = program.columns[static_cast<std::size_t>(column)].name;
+    for (const Field& field : program.updatable->columns) {
+        if (equalText(field.name, name))
+            return field;
+    }
+    throw DatabaseError(3164, "The field '" + name + "' cannot be changed");
+}
+
+void Recordset::Impl::search(std::string_view expression, long from) {
+    const jet::Search search(expression, [this](std::string_view name) { return find(name); });
+    editing = Editing::None;
+    for (long row = std::max(from, 0L); row < rows; ++row) {
+        if (search.matches([this, row](int column) -> const Value& { return cell(row, column); })) {
+            cursor = row;
+            deleted = false;
+            noMatch = false;
+            return;
+        }
+    }
+    noMatch = true;
+}
+
+void Recordset::Impl::writeExisting() {
+    const jet::Table& table = *program.updatable;
+    std::string assignments;
+    for (int column = 0; column < columns(); ++column) {
+        if (touched[static_cast<std::size_t>(column)])
+            assignments += (assignments.empty() ? "" : ", ") + quoteIdentifier(tableField(column).name) + " = ?";
+    }
+    if (assignments.empty())
+        return;
+    sqlite::Statement update(file->connection(), "UPDATE " + table.schema + "." + quoteIdentifier(table.name) +
+                                                     " SET " + assignments + " WHERE rowid = ?");
+    int parameter = 0;
+    for (int column = 0; column < columns(); ++column) {
+        if (touched[static_cast<std::size_t>(column)])
+            bindValue(update, ++parameter, tableField(column), buffer[static_cast<std::size_t>(column)]);
+    }
+    update.bind(++parameter, rowids[static_cast<std::size_t>(cursor)]);
+    update.step();
+    if (file->connection().changes() == 0)
+        throw DatabaseError(3167, "The record has been deleted");
+    for (int column = 0; column < columns(); ++column)
+        cells[static_cast<std::size_t>(cursor * columns() + column)] = buffer[static_cast<std::size_t>(column)];
+}
+
+void Recordset::Impl::writeNew() {
+    const jet::Table& table = *program.updatable;
+    std::string names;
+    std::string places;
+    for (int column = 0; column < columns(); ++column) {
+        if (!touched[static_cast<std::size_t>(column)])
+            continue;
+        names += (names.empty() ? "" : ", ") + quoteIdentifier(tableField(column).name);
+        places += places.empty() ? "?" : ", ?";
+    }
+    const std::string target = "INSERT INTO " + table.schema + "." + quoteIdentifier(table.name);
+    sqlite::Statement insert(file->connection(), names.empty() ? target + " DEFAULT VALUES"
+                                                               : target + " (" + names + ") VALUES (" + places + ")");
+    int parameter = 0;
+    for (int column = 0; column < columns(); ++column) {
+        if (touched[static_cast<std::size_t>(column)])
+            bindValue(insert, ++parameter, tableField(column), buffer[static_cast<std::size_t>(column)]);
+    }
+    insert.step();
+    rowids.push_back(file->connection().lastInsertRowid());
+    for (Value& value : buffer)
+        cells.push_back(std::move(value));
+    ++rows;
+}
