@@ -2,7 +2,9 @@
 
 #include "sample/geography/EmbeddedCsv.h"
 #include "sample/geography/NationalGrid.h"
+#include "sample/geography/NoisyLine.h"
 #include "sample/geography/PlaneGeometry.h"
+#include "sample/geography/SeededRandom.h"
 
 #include <algorithm>
 #include <limits>
@@ -13,7 +15,7 @@ namespace sample {
 
 namespace {
 
-constexpr double bucketSize = 400; // four kilometres, a few segments of the coast each
+constexpr double bucketSize = 200; // two kilometres, a few segments of the coast each
 
 /// One ring of the outlines: vertex numbers, without the closing one.
 struct RawRing {
@@ -52,6 +54,8 @@ Coast::Coast() {
     for (RawRing& ring : readRings(vertices_))
         addRing(ring.country, std::move(ring.vertices), known);
     makeIndex();
+    roughen();
+    makeIndex();
 }
 
 void Coast::addRing(const std::string& country, std::vector<int> ring, SegmentsByEnds& known) {
@@ -84,6 +88,8 @@ void Coast::makeIndex() {
         low = {std::min(low.x, v.x), std::min(low.y, v.y)};
         high = {std::max(high.x, v.x), std::max(high.y, v.y)};
     }
+    buckets_.clear();
+    bands_.clear();
     origin_ = low;
     columns_ = static_cast<int>((high.x - low.x) / bucketSize) + 1;
     rows_ = static_cast<int>((high.y - low.y) / bucketSize) + 1;
@@ -149,24 +155,103 @@ MapPoint Coast::nearestHome(MapPoint point) const {
     throw std::runtime_error("there is no land near " + std::to_string(point.x) + ", " + std::to_string(point.y));
 }
 
-std::vector<CoastCrossing> Coast::crossings(MapPoint a, MapPoint b) const {
+std::vector<int> Coast::segmentsNear(MapPoint a, MapPoint b, double margin) const {
     const auto bucketOf = [](double value, double low, int count) {
         return std::clamp(static_cast<int>(std::floor((value - low) / bucketSize)), 0, count - 1);
     };
-    std::vector<int> candidates;
-    const int lastRow = bucketOf(std::max(a.y, b.y), origin_.y, rows_);
-    const int lastColumn = bucketOf(std::max(a.x, b.x), origin_.x, columns_);
-    for (int row = bucketOf(std::min(a.y, b.y), origin_.y, rows_); row <= lastRow; ++row) {
-        for (int column = bucketOf(std::min(a.x, b.x), origin_.x, columns_); column <= lastColumn; ++column) {
+    const int lastRow = bucketOf(std::max(a.y, b.y) + margin, origin_.y, rows_);
+    const int lastColumn = bucketOf(std::max(a.x, b.x) + margin, origin_.x, columns_);
+    std::vector<int> found;
+    for (int row = bucketOf(std::min(a.y, b.y) - margin, origin_.y, rows_); row <= lastRow; ++row) {
+        for (int column = bucketOf(std::min(a.x, b.x) - margin, origin_.x, columns_); column <= lastColumn; ++column) {
             const std::vector<int>& bucket = buckets_[static_cast<std::size_t>(row * columns_ + column)];
-            candidates.insert(candidates.end(), bucket.begin(), bucket.end());
+            found.insert(found.end(), bucket.begin(), bucket.end());
         }
     }
-    std::sort(candidates.begin(), candidates.end());
-    candidates.erase(std::unique(candidates.begin(), candidates.end()), candidates.end());
+    std::sort(found.begin(), found.end());
+    found.erase(std::unique(found.begin(), found.end()), found.end());
+    return found;
+}
 
+bool Coast::mayTouchHome(MapPoint low, double size) const {
+    const MapPoint high = low + MapPoint{size, size};
+    return isHome((low + high) * 0.5) || !segmentsNear(low, high, 0).empty();
+}
+
+/// Half of the way from a segment to the nearest one that does not hang together with it, `enough` at most.
+double Coast::roomBeside(int segment, double enough) const {
+    const auto ends = [this](const Segment& s) {
+        return std::pair(vertices_[static_cast<std::size_t>(s.from)], vertices_[static_cast<std::size_t>(s.to)]);
+    };
+    const Segment& own = segments_[static_cast<std::size_t>(segment)];
+    const auto [a, b] = ends(own);
+    double room = 2 * enough;
+    for (const int near : segmentsNear(a, b, 2 * enough)) {
+        const Segment& other = segments_[static_cast<std::size_t>(near)];
+        if (other.from == own.from || other.from == own.to || other.to == own.from || other.to == own.to)
+            continue;
+        const auto [c, d] = ends(other);
+        room = std::min(
+            {room, distanceToLine(c, a, b), distanceToLine(d, a, b), distanceToLine(a, c, d), distanceToLine(b, c, d)});
+    }
+    return room / 2;
+}
+
+// Neighbours share the angle between them, and lines that face each other share the water or land between.
+void Coast::roughen() {
+    constexpr double roughness = 0.11;
+    constexpr double stepLength = 40;
+    constexpr double steepest = 0.7;
+    constexpr double usedRoom = 0.8;
+    constexpr std::uint64_t shape = 1707; // the coast is the same in every sample
+
+    std::vector<std::vector<int>> neighbours(vertices_.size());
+    for (const Segment& s : segments_) {
+        neighbours[static_cast<std::size_t>(s.from)].push_back(s.to);
+        neighbours[static_cast<std::size_t>(s.to)].push_back(s.from);
+    }
+    const auto slopeAt = [&](int apex, int end) {
+        const MapPoint place = vertices_[static_cast<std::size_t>(apex)];
+        const MapPoint way = vertices_[static_cast<std::size_t>(end)] - place;
+        double slope = steepest;
+        for (const int other : neighbours[static_cast<std::size_t>(apex)]) {
+            const MapPoint otherWay = vertices_[static_cast<std::size_t>(other)] - place;
+            if (other != end) // tan(angle / 2) = sin / (1 + cos)
+                slope = std::min(slope, std::abs(cross(way, otherWay)) /
+                                            (std::sqrt(dot(way, way) * dot(otherWay, otherWay)) + dot(way, otherWay)));
+        }
+        return usedRoom * slope;
+    };
+
+    std::vector<Segment> rough;
+    std::vector<MapPoint> added;
+    for (std::size_t i = 0; i < segments_.size(); ++i) {
+        Segment piece = segments_[i];
+        const int end = piece.to;
+        const MapPoint from = vertices_[static_cast<std::size_t>(piece.from)];
+        const MapPoint to = vertices_[static_cast<std::size_t>(end)];
+        const Unevenness unevenness{.roughness = roughness,
+                                    .stepLength = stepLength,
+                                    .slopeFrom = slopeAt(piece.from, end),
+                                    .slopeTo = slopeAt(end, piece.from),
+                                    .reach =
+                                        usedRoom * roomBeside(static_cast<int>(i), 2 * roughness * distance(from, to))};
+        for (const MapPoint& point : unevenPoints(from, to, unevenness, mixAll(shape, i))) {
+            piece.to = static_cast<int>(vertices_.size() + added.size());
+            added.push_back(point);
+            rough.push_back(piece);
+            piece.from = piece.to;
+        }
+        piece.to = end;
+        rough.push_back(piece);
+    }
+    vertices_.insert(vertices_.end(), added.begin(), added.end());
+    segments_ = std::move(rough);
+}
+
+std::vector<CoastCrossing> Coast::crossings(MapPoint a, MapPoint b) const {
     std::vector<CoastCrossing> found;
-    for (int s : candidates) {
+    for (int s : segmentsNear(a, b, 0)) {
         const Segment& segment = segments_[static_cast<std::size_t>(s)];
         const MapPoint c = vertices_[static_cast<std::size_t>(segment.from)];
         const MapPoint d = vertices_[static_cast<std::size_t>(segment.to)];

@@ -18,6 +18,7 @@ struct CoastCrossing {
 };
 
 /// The outlines of the countries as a graph: the land border in Ireland is in it once, with a ring on either side.
+/// Between the vertices of the data, which stand a kilometre or two apart, the lines are made uneven.
 class Coast {
 public:
     static constexpr int sea = -1;
@@ -45,6 +46,9 @@ public:
     /// Whether the point lies on land that is divided into areas: not the sea, not the Republic.
     bool isHome(MapPoint point) const;
 
+    /// False where a square surely holds neither land at home nor any coast.
+    bool mayTouchHome(MapPoint low, double size) const;
+
     /// The point itself when it is at home, else a place of that kind near by: the outlines are too coarse for some
     /// harbour towns. Throws std::runtime_error when there is none within 30 kilometres.
     MapPoint nearestHome(MapPoint point) const;
@@ -57,6 +61,9 @@ private:
     using SegmentsByEnds = std::map<std::pair<int, int>, std::size_t>;
     void addRing(const std::string& country, std::vector<int> ring, SegmentsByEnds& known);
     void makeIndex();
+    void roughen();
+    double roomBeside(int segment, double enough) const;
+    std::vector<int> segmentsNear(MapPoint a, MapPoint b, double margin) const;
 
     std::vector<MapPoint> vertices_;
     std::vector<Segment> segments_;

@@ -11,8 +11,21 @@ namespace sample {
 
 namespace {
 
-constexpr double stepsPerSpacing = 5; // a line between two cells has a vertex every fifth of a cell
-constexpr double shortestStep = 8;    // but not closer than eighty metres
+/// The line between two cells, without its ends. It stays within the triangles that the edge spans with either site
+/// (which are mirror images), and these do not overlap: so no two lines of the tessellation ever cross.
+std::vector<MapPoint> cellLine(MapPoint from, MapPoint to, const Site& left, const Site& right, std::uint64_t seed) {
+    constexpr double roughness = 0.24;
+    constexpr double usedRoom = 0.85;     // short of the sites themselves, lest lines meet in spikes
+    constexpr double stepsPerSpacing = 5; // a vertex every fifth of a cell
+    constexpr double shortestStep = 8;    // but not closer than eighty metres
+    const double step = std::max(shortestStep, std::min(left.spacing, right.spacing) / stepsPerSpacing);
+    return unevenPoints(from, to,
+                        {.roughness = roughness,
+                         .stepLength = step,
+                         .slopeFrom = usedRoom * tangentAt(from, to, left.place),
+                         .slopeTo = usedRoom * tangentAt(to, from, left.place)},
+                        seed);
+}
 
 /// What lies at the two sides of an edge before the faces are known.
 struct Sides {
@@ -72,9 +85,7 @@ private:
         const Site& right = sites_[static_cast<std::size_t>(edge.rightSite)];
         const MapPoint from = voronoi_.vertices[static_cast<std::size_t>(edge.from)];
         const MapPoint to = voronoi_.vertices[static_cast<std::size_t>(edge.to)];
-        const double step = std::max(shortestStep, std::min(left.spacing, right.spacing) / stepsPerSpacing);
-        std::vector<MapPoint> path =
-            noisyPoints(from, to, left.place, step, mixAll(seed_, edge.leftSite, edge.rightSite));
+        std::vector<MapPoint> path = cellLine(from, to, left, right, mixAll(seed_, edge.leftSite, edge.rightSite));
         path.push_back(to);
 
         int ring = coast_.ringAt(from);

@@ -19,6 +19,15 @@ std::vector<std::string> splitWords(const std::string& text) {
     return words;
 }
 
+/// The first field of a record without apostrophes, and a check that it is new to the list.
+std::string newName(const CsvRecord& record, std::set<std::string>& known) {
+    std::string name = record.fields[0];
+    std::erase(name, '\'');
+    if (name.empty() || !known.insert(name).second)
+        record.fail("the name \"" + name + "\" is empty or listed a second time");
+    return name;
+}
+
 /// Where the town of a record stands: fills place, ring and nation.
 template<typename Place>
 void locate(Place& town, const CsvRecord& record, std::size_t latitudeField, const Coast& coast,
@@ -34,7 +43,6 @@ void locate(Place& town, const CsvRecord& record, std::size_t latitudeField, con
 
 Town readTown(const CsvRecord& record, const Coast& coast, const Nations& nations) {
     Town town;
-    town.name = record.fields[0];
     locate(town, record, 1, coast, nations);
     town.districts = splitWords(record.fields[3]);
     town.dialling = record.fields[4];
@@ -44,8 +52,8 @@ Town readTown(const CsvRecord& record, const Coast& coast, const Nations& nation
     town.dialling.erase(0, 1);
     town.region = record.fields[5];
     town.people = record.number(6) * 1000;
-    if (town.name.empty() || town.region.empty() || town.people <= 0)
-        record.fail("a town needs a name, a region and a size");
+    if (town.region.empty() || town.people <= 0)
+        record.fail("a town needs a region and a size");
     return town;
 }
 
@@ -55,17 +63,20 @@ Gazetteer readGazetteer(const Coast& coast, const Nations& nations) {
     Gazetteer gazetteer;
     std::set<std::string> districts;
     std::set<std::string> regions;
+    std::set<std::string> townNames;
+    std::set<std::string> csgNames;
     for (const CsvRecord& record : readCsv(townsCsv(), "Town,Lat,Lon,Districts,Dialling,Region,Size")) {
-        gazetteer.towns.push_back(readTown(record, coast, nations));
-        regions.insert(gazetteer.towns.back().region);
-        for (const std::string& district : gazetteer.towns.back().districts)
+        Town& town = gazetteer.towns.emplace_back(readTown(record, coast, nations));
+        town.name = newName(record, townNames);
+        regions.insert(town.region);
+        for (const std::string& district : town.districts)
             if (!districts.insert(district).second)
                 record.fail("district " + district + " is listed a second time");
     }
     gazetteer.regions.assign(regions.begin(), regions.end());
     for (const CsvRecord& record : readCsv(csgsCsv(), "Name,Lat,Lon")) {
         CsgTown& csg = gazetteer.csgs.emplace_back();
-        csg.name = record.fields[0];
+        csg.name = newName(record, csgNames);
         locate(csg, record, 1, coast, nations);
     }
     return gazetteer;

@@ -8,10 +8,11 @@
 
 namespace sample {
 
+/// A town, or a part of a city, with an exchange of its own.
 struct Town {
-    std::string name;
-    MapPoint place; ///< on land
-    int ring = 0;   ///< of the coast
+    std::string name; ///< in capitals; a qualifier may follow in brackets: "ASHFORD (Kent)"
+    MapPoint place;   ///< on land
+    int ring = 0;     ///< of the coast
     Nation nation = Nation::England;
     std::vector<std::string> districts; ///< those that are named after it, the centre first; may be empty
     std::string dialling;               ///< without the leading 0
@@ -33,8 +34,9 @@ struct Gazetteer {
     std::vector<std::string> regions; ///< names of the TV regions, in alphabetical order
 };
 
-/// Reads the compiled-in lists. Throws std::runtime_error that names file and line where one is damaged, where a
-/// district is listed twice or a town stands in the sea.
+/// Reads the compiled-in lists. Names lose their apostrophes, which would break the statements that look for them.
+/// Throws std::runtime_error that names file and line where a list is damaged, where a name or a district is listed
+/// twice or a town stands in the sea.
 Gazetteer readGazetteer(const Coast& coast, const Nations& nations);
 
 } // namespace sample

@@ -4,23 +4,13 @@
 #include "sample/geography/SeededRandom.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace sample {
 
 namespace {
 
-constexpr double roughness = 0.24;    // displacement of the middle, as a share of the length
-constexpr double decay = 0.56;        // from one halving to the next; a half would be a smooth curve
-constexpr double safetyMargin = 0.85; // how much of the room between edge and site may be used
+constexpr double decay = 0.56; // of the displacement from one halving to the next; a half would be a smooth curve
 constexpr int mostHalvings = 5;
-
-/// Tangent of the triangle's angle at `apex` between the edge and the site; no limit from a right angle on.
-double slopeTowards(MapPoint apex, MapPoint otherEnd, MapPoint site) {
-    const double along = dot(otherEnd - apex, site - apex);
-    const double across = std::abs(cross(otherEnd - apex, site - apex));
-    return along <= 0 ? std::numeric_limits<double>::infinity() : across / along;
-}
 
 /// Displacements at 0, 1/n .. 1 of the way, n a power of two: the middle of each stretch is moved by a random share.
 std::vector<double> fractal(std::size_t n, double amplitude, SeededRandom& random) {
@@ -33,27 +23,33 @@ std::vector<double> fractal(std::size_t n, double amplitude, SeededRandom& rando
 
 } // namespace
 
-std::vector<MapPoint> noisyPoints(MapPoint from, MapPoint to, MapPoint site, double stepLength, std::uint64_t seed) {
+std::vector<MapPoint> unevenPoints(MapPoint from, MapPoint to, const Unevenness& unevenness, std::uint64_t seed) {
     const MapPoint way = to - from;
     const double length = distance(from, to);
     int halvings = 0;
-    while (halvings < mostHalvings && length / static_cast<double>(1 << halvings) > stepLength)
+    while (halvings < mostHalvings && length / static_cast<double>(1 << halvings) > unevenness.stepLength)
         ++halvings;
     const std::size_t n = std::size_t{1} << halvings;
+    if (n == 1)
+        return {};
 
     SeededRandom random(seed);
-    const std::vector<double> height = fractal(n, roughness * length, random);
-    const double slopeFrom = slopeTowards(from, to, site);
-    const double slopeTo = slopeTowards(to, from, site);
-    const MapPoint normal = MapPoint{-way.y, way.x} * (1 / std::max(length, 1e-9));
-
+    const std::vector<double> height = fractal(n, unevenness.roughness * length, random);
+    const MapPoint normal = MapPoint{-way.y, way.x} * (1 / length);
     std::vector<MapPoint> points;
     for (std::size_t i = 1; i < n; ++i) {
         const double t = static_cast<double>(i) / static_cast<double>(n);
-        const double room = safetyMargin * std::min(t * length * slopeFrom, (1 - t) * length * slopeTo);
+        const double room =
+            std::min({t * length * unevenness.slopeFrom, (1 - t) * length * unevenness.slopeTo, unevenness.reach});
         points.push_back(from + way * t + normal * std::clamp(height[i], -room, room));
     }
     return points;
+}
+
+double tangentAt(MapPoint apex, MapPoint one, MapPoint other) {
+    const double along = dot(one - apex, other - apex);
+    const double across = std::abs(cross(one - apex, other - apex));
+    return along <= 0 ? std::numeric_limits<double>::infinity() : across / along;
 }
 
 } // namespace sample

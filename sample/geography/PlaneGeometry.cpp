@@ -1,6 +1,15 @@
 #include "sample/geography/PlaneGeometry.h"
 
+#include <algorithm>
+
 namespace sample {
+
+double distanceToLine(MapPoint point, MapPoint from, MapPoint to) {
+    const MapPoint way = to - from;
+    const double squared = dot(way, way);
+    const double t = squared == 0 ? 0 : std::clamp(dot(point - from, way) / squared, 0.0, 1.0);
+    return distance(point, from + way * t);
+}
 
 double signedArea(std::span<const MapPoint> ring) {
     double twice = 0;

@@ -28,6 +28,9 @@ inline double distance(MapPoint a, MapPoint b) {
     return std::sqrt(dot(a - b, a - b));
 }
 
+/// From a point to the nearest place on the line between two others.
+double distanceToLine(MapPoint point, MapPoint from, MapPoint to);
+
 /// Area of a closed ring, square map units; positive when it runs anticlockwise. Taken about the first vertex, so that
 /// the figures stay small.
 double signedArea(std::span<const MapPoint> ring);

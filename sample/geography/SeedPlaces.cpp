@@ -3,10 +3,8 @@
 #include "sample/geography/PlaneGeometry.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <numbers>
-#include <string_view>
 
 namespace sample {
 
@@ -91,48 +89,6 @@ void placeDistricts(int townNumber, int centre, const Gazetteer& gazetteer, Plac
     }
 }
 
-/// "King's Lynn" becomes "KINGS LYNN": an apostrophe would break the statements that look for the name. A qualifier in
-/// brackets keeps its small letters: "ASHFORD (Kent)".
-std::string exchangeName(const std::string& town) {
-    std::string name;
-    bool qualifier = false;
-    for (const char c : town) {
-        qualifier = qualifier || c == '(';
-        if (c == '\'')
-            continue;
-        name += !qualifier && c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-    }
-    return name;
-}
-
-/// Puts a part of the town between its name and its qualifier: "NEWPORT NORTH (Gwent)".
-std::string withPart(const std::string& exchange, std::string_view part) {
-    const std::size_t bracket = exchange.find(" (");
-    std::string name = exchange.substr(0, bracket);
-    name.append(" ").append(part);
-    return bracket == std::string::npos ? name : name + exchange.substr(bracket);
-}
-
-void placeExchanges(int townNumber, int centre, const Gazetteer& gazetteer, PlaceBook& book, Seeds& seeds) {
-    constexpr std::array<std::string_view, 8> quarters{"EAST", "NORTH EAST", "NORTH", "NORTH WEST",
-                                                       "WEST", "SOUTH WEST", "SOUTH", "SOUTH EAST"};
-    constexpr double peoplePerExchange = 60000;
-    const Town& town = gazetteer.towns[static_cast<std::size_t>(townNumber)];
-    const std::string name = exchangeName(town.name);
-    const int outer = town.people < 2 * peoplePerExchange
-                          ? 0
-                          : std::min(static_cast<int>(town.people / peoplePerExchange), 8) / 2 * 2;
-    const double people = town.people / (outer + 1);
-    seeds.exchanges.push_back({outer == 0 ? name : withPart(name, "CENTRAL"), centre, townNumber, people});
-    const double radius = 0.7 * urbanRadius(town.people);
-    for (int i = 0; i < outer; ++i) {
-        const std::size_t quarter = static_cast<std::size_t>(i) * quarters.size() / static_cast<std::size_t>(outer);
-        const double angle = 2 * std::numbers::pi * static_cast<double>(quarter) / quarters.size();
-        const int place = book.claim(town.place + heading(angle) * radius, town, radius / 2);
-        seeds.exchanges.push_back({withPart(name, quarters[quarter]), place, townNumber, people});
-    }
-}
-
 } // namespace
 
 Seeds placeSeeds(const Gazetteer& gazetteer, const Coast& coast, const Nations& nations, std::uint64_t seed) {
@@ -143,7 +99,8 @@ Seeds placeSeeds(const Gazetteer& gazetteer, const Coast& coast, const Nations& 
         centres.push_back(book.claim(town.place, town, kilometre));
     for (int i = 0; i < static_cast<int>(centres.size()); ++i) {
         placeDistricts(i, centres[static_cast<std::size_t>(i)], gazetteer, book, seeds);
-        placeExchanges(i, centres[static_cast<std::size_t>(i)], gazetteer, book, seeds);
+        const Town& town = gazetteer.towns[static_cast<std::size_t>(i)];
+        seeds.exchanges.push_back({town.name, centres[static_cast<std::size_t>(i)], i, town.people});
     }
     seeds.places = book.takePlaces();
     return seeds;

@@ -22,8 +22,8 @@ struct Seeds {
     std::vector<SeedArea> exchanges;
 };
 
-/// Spreads the districts of each town round it, the first in its centre, and gives each town its exchange, a large one
-/// several. All stand on the town's own island and in its nation.
+/// Spreads the districts of each town round it, the first in its centre, where its exchange is too. All stand on the
+/// town's own island and in its nation.
 Seeds placeSeeds(const Gazetteer& gazetteer, const Coast& coast, const Nations& nations, std::uint64_t seed);
 
 } // namespace sample

@@ -79,13 +79,16 @@ bool isWanted(const Coast& coast, const Site& site) {
 }
 
 /// Splits a square until its side fits the spacing there, then throws some candidates into it.
-void addCandidates(MapPoint low, double size, std::span<const MapPoint> centres, SeededRandom& random,
-                   std::vector<Site>& candidates) {
+void addCandidates(MapPoint low, double size, const Coast& coast, std::span<const MapPoint> centres,
+                   SeededRandom& random, std::vector<Site>& candidates) {
     constexpr int throwsPerSquare = 6;
+    constexpr double margin = 1.5 * widest;
+    if (!coast.mayTouchHome(low - MapPoint{margin, margin}, size + 2 * margin))
+        return;
     const double spacing = spacingAt(low + MapPoint{size / 2, size / 2}, centres);
     if (size > spacing * 1.4) {
         for (const MapPoint corner : {MapPoint{0, 0}, MapPoint{1, 0}, MapPoint{0, 1}, MapPoint{1, 1}})
-            addCandidates(low + corner * (size / 2), size / 2, centres, random, candidates);
+            addCandidates(low + corner * (size / 2), size / 2, coast, centres, random, candidates);
         return;
     }
     for (int i = 0; i < throwsPerSquare; ++i) {
@@ -116,7 +119,7 @@ std::vector<Site> scatterSites(const Coast& coast, std::span<const MapPoint> cen
 
     SeededRandom random(seed);
     std::vector<Site> candidates;
-    addCandidates(mapLow, mapSize, centres, random, candidates);
+    addCandidates(mapLow, mapSize, coast, centres, random, candidates);
     for (std::size_t i = candidates.size(); i > 1; --i)
         std::swap(candidates[i - 1], candidates[random.below(i)]);
     for (const Site& candidate : candidates) {
