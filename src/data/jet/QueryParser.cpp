@@ -1,0 +1,208 @@
+#include "data/jet/StatementParser.h"
+
+#include "data/types/DatabaseError.h"
+
+#include <algorithm>
+
+namespace jet {
+
+namespace {
+constexpr long selectError = 3141;
+constexpr long fromError = 3131;
+constexpr long joinError = 3135;
+constexpr long orderError = 3138;
+/// The storage library joins no more tables and unites no more queries in one statement.
+constexpr int mostTables = 64;
+constexpr std::size_t mostUnited = 500;
+} // namespace
+
+std::unique_ptr<Query> StatementParser::query() {
+    const Nesting nesting(*this);
+    auto result = std::make_unique<Query>();
+    unionMember(*result);
+    while (tokens_.acceptWord("UNION")) {
+        result->unionAll.push_back(tokens_.acceptWord("ALL"));
+        // Only the order of the whole counts: one that stands before a UNION sorts nothing.
+        if (!result->selects.back().top)
+            result->order.clear();
+        if (result->selects.size() >= mostUnited)
+            throw DatabaseError(3360, "The statement is too complex: too many queries are united",
+                                tokens_.peek().position);
+        unionMember(*result);
+    }
+    return result;
+}
+
+/// One SELECT, bare or in brackets, with an ORDER BY behind it.
+void StatementParser::unionMember(Query& into) {
+    if (tokens_.isSymbol("(")) {
+        const Nesting nesting(*this);
+        tokens_.take();
+        unionMember(into);
+        tokens_.expectSymbol(")", selectError);
+    } else {
+        into.selects.push_back(select());
+    }
+    if (tokens_.isWord("ORDER"))
+        into.order = orderTerms();
+}
+
+Select StatementParser::select() {
+    Select result;
+    result.position = tokens_.peek().position;
+    tokens_.expectWord("SELECT", selectError);
+    if (tokens_.acceptWord("DISTINCT") || tokens_.acceptWord("DISTINCTROW"))
+        result.distinct = true;
+    else
+        tokens_.acceptWord("ALL");
+    selectTop(result);
+    do {
+        result.columns.push_back(selectColumn());
+    } while (tokens_.acceptSymbol(","));
+    if (tokens_.acceptWord("INTO"))
+        result.into = tableName(selectError);
+    if (tokens_.acceptWord("FROM"))
+        result.from = fromList();
+    result.where = optionalWhere();
+    if (tokens_.acceptWord("GROUP")) {
+        tokens_.expectWord("BY", selectError);
+        do {
+            result.groupBy.push_back(expression());
+        } while (tokens_.acceptSymbol(","));
+    }
+    if (tokens_.acceptWord("HAVING"))
+        result.having = expression();
+    return result;
+}
+
+void StatementParser::selectTop(Select& into) {
+    if (!tokens_.isWord("TOP") || tokens_.peek(1).kind != Token::Kind::Number)
+        return;
+    tokens_.take();
+    const auto* count = std::get_if<std::int64_t>(&tokens_.peek().value.storage());
+    if (!count || *count < 1)
+        tokens_.fail(selectError);
+    into.top = *count;
+    tokens_.take();
+    into.topPercent = tokens_.acceptWord("PERCENT");
+    if (into.topPercent && *into.top > 100)
+        throw DatabaseError(selectError, "Syntax error: more than 100 percent", into.position);
+}
+
+SelectColumn StatementParser::selectColumn() {
+    SelectColumn column;
+    column.position = tokens_.peek().position;
+    if (tokens_.acceptSymbol("*"))
+        return column;
+    if (tokens_.isName() && tokens_.isSymbol(".", 1) && tokens_.isSymbol("*", 2)) {
+        column.qualifier = tokens_.take().text;
+        tokens_.take();
+        tokens_.take();
+        return column;
+    }
+    // A keyword or comma where a column should stand is a fault of the list, not of an expression.
+    if (tokens_.atEnd() || tokens_.isSymbol(",") || tokens_.isWord("FROM") || tokens_.isWord("WHERE") ||
+        tokens_.isWord("INTO"))
+        tokens_.fail(selectError);
+    column.expression = expression(Follower::Alias);
+    column.alias = optionalAlias(selectError);
+    return column;
+}
+
+std::string StatementParser::optionalAlias(long error) {
+    if (tokens_.acceptWord("AS"))
+        return tokens_.expectName(error);
+    return tokens_.isName() ? tokens_.take().text : std::string();
+}
+
+std::vector<OrderTerm> StatementParser::orderTerms() {
+    tokens_.expectWord("ORDER", orderError);
+    tokens_.expectWord("BY", orderError);
+    std::vector<OrderTerm> terms;
+    do {
+        OrderTerm term;
+        term.expression = expression();
+        term.descending = tokens_.acceptWord("DESC");
+        if (!term.descending)
+            tokens_.acceptWord("ASC");
+        terms.push_back(std::move(term));
+    } while (tokens_.acceptSymbol(","));
+    return terms;
+}
+
+std::vector<std::unique_ptr<FromItem>> StatementParser::fromList() {
+    std::vector<std::unique_ptr<FromItem>> items;
+    do {
+        items.push_back(joined());
+        if (items.size() > static_cast<std::size_t>(mostTables))
+            throw DatabaseError(3360, "The statement is too complex: too many tables", items.back()->position);
+    } while (tokens_.acceptSymbol(","));
+    return items;
+}
+
+std::unique_ptr<FromItem> StatementParser::joined() {
+    const Nesting nesting(*this);
+    std::unique_ptr<FromItem> left = fromPrimary();
+    while (true) {
+        const std::size_t position = tokens_.peek().position;
+        auto kind = FromItem::Join::Inner;
+        if (tokens_.acceptWord("LEFT"))
+            kind = FromItem::Join::Left;
+        else if (tokens_.acceptWord("RIGHT"))
+            kind = FromItem::Join::Right;
+        else if (!tokens_.acceptWord("INNER") && !tokens_.isWord("JOIN"))
+            return left;
+        if (kind != FromItem::Join::Inner)
+            tokens_.acceptWord("OUTER");
+        tokens_.expectWord("JOIN", joinError);
+        auto join = std::make_unique<FromItem>();
+        join->kind = FromItem::Kind::Join;
+        join->position = position;
+        join->join = kind;
+        join->left = std::move(left);
+        join->right = fromPrimary();
+        tokens_.expectWord("ON", joinError);
+        join->on = expression();
+        join->depth = std::max(join->left->depth, join->right->depth) + 1;
+        if (join->depth > mostTables)
+            throw DatabaseError(3360, "The statement is too complex: too many joins", position);
+        left = std::move(join);
+    }
+}
+
+/// A table, a derived table, or a join in brackets.
+std::unique_ptr<FromItem> StatementParser::fromPrimary() {
+    auto item = std::make_unique<FromItem>();
+    item->position = tokens_.peek().position;
+    if (!tokens_.acceptSymbol("(")) {
+        item->table = tableName(fromError);
+        item->alias = optionalAlias(fromError);
+        return item;
+    }
+    const Nesting nesting(*this);
+    if (tokens_.isWord("SELECT")) {
+        item->kind = FromItem::Kind::Derived;
+        item->query = query();
+        tokens_.expectSymbol(")", fromError);
+        item->alias = optionalAlias(fromError);
+        return item;
+    }
+    item = joined();
+    tokens_.expectSymbol(")", fromError);
+    return item;
+}
+
+TableName StatementParser::tableName(long error) {
+    TableName name;
+    name.position = tokens_.peek().position;
+    name.name = tokens_.expectName(error);
+    if (tokens_.acceptSymbol(".")) {
+        name.path = std::move(name.name);
+        if (tokens_.peek().kind != Token::Kind::Word && tokens_.peek().kind != Token::Kind::Name)
+            tokens_.fail(error);
+        name.name = tokens_.take().text;
+    }
+    return name;
+}
+
+} // namespace jet
