@@ -36,6 +36,19 @@ std::shared_ptr<Recordset> Database::openRecordset(std::string_view statementOrT
     jet::Program program = jet::translate(statementOrTable, *impl_);
     if (!program.isQuery)
         throw DatabaseError(3219, "A statement that changes data shows no rows; execute it");
+    return open(std::move(program));
+}
+
+std::shared_ptr<Recordset> Database::run(std::string_view statement) {
+    impl_->file();
+    jet::Program program = jet::translate(statement, *impl_);
+    if (program.isQuery)
+        return open(std::move(program));
+    impl_->run(program);
+    return nullptr;
+}
+
+std::shared_ptr<Recordset> Database::open(jet::Program program) {
     if (impl_->readOnly)
         program.updatable.reset();
     auto rows = std::make_unique<Recordset::Impl>(impl_->attached, std::move(program));

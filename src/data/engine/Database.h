@@ -36,6 +36,9 @@ public:
     /// Opens a statement or a bare table name. All rows are read at once; no statement stays open on the file.
     std::shared_ptr<Recordset> openRecordset(std::string_view statementOrTable);
 
+    /// Runs a statement of either kind: the rows of a query, or null after one that changes data.
+    std::shared_ptr<Recordset> run(std::string_view statement);
+
     /// The tables and links of the file. Valid as long as the handle.
     TableDefs& tableDefs();
     /// A new table definition, to be filled and appended to tableDefs().
@@ -49,5 +52,7 @@ public:
     std::string schema() const;
 
 private:
+    std::shared_ptr<Recordset> open(jet::Program program);
+
     std::unique_ptr<Impl> impl_;
 };

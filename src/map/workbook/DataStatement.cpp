@@ -1,0 +1,79 @@
+#include "map/workbook/DataStatement.h"
+#include "data/types/Value.h"
+
+namespace {
+
+/// "TotalCalls1 AS TotalCalls", or the column alone.
+std::string counted(const std::string& name, const DataView& view, bool named) {
+    const std::string column = name + std::to_string(view.dataSet);
+    return named ? column + " AS " + name : column;
+}
+
+std::string rate(const std::string& name, const DataView& view) {
+    return "FORMAT(" + name + std::to_string(view.dataSet) + ", '0.000') AS " + name;
+}
+
+std::string money(const std::string& name, const DataView& view) {
+    return "FORMAT(" + name + std::to_string(view.dataSet) + ", '£0.00') as [" + name + "(£)]";
+}
+
+template<typename Column>
+std::string measures(const DataView& view, Column column) {
+    return column("TotalCalls") + ", " + column("Answered") + ", " + column("Ineffective") + ", " +
+           money("Cost", view) + ", " + money("Revenue", view) + ", " + column("Engaged") + ", " + column("RTNR") +
+           ", " + column("Other") + ", " + column("LostCallers") + ", " + column("AnsweredCallers");
+}
+
+bool isPopulationTable(const DataView& view) {
+    return equalText(view.table, "tblTVByPopulation") || equalText(view.table, "tblPostCodeByPopulation");
+}
+
+/// The shares of a campaign's spend. Animated tables and tables of rates keep none.
+std::string costColumns(const DataView& view) {
+    if (view.table.find("Animate") != std::string::npos || !view.hasCostColumns)
+        return "";
+    return ", AreaCostPerAnsweredCall AS [Area Cost Per Answered Call], AreaCostPerAnsweredCaller AS [Area Cost Per "
+           "Answered "
+           "Caller]";
+}
+
+std::string keyColumn(int boundary) {
+    switch (boundary) {
+    case 0:
+        return "Exchange";
+    case 1:
+        return "CSG";
+    case 2:
+        return "TVRegion";
+    case 3:
+        return "PostCodeDistrict";
+    case 5:
+        return "GroupName";
+    default:
+        return "";
+    }
+}
+
+std::string source(const DataView& view, const std::string& key) {
+    if (!view.hasPopulation || (view.boundary != 2 && view.boundary != 3))
+        return " FROM " + view.table;
+    const std::string population = view.boundary == 2 ? "tblTVPopulationDensity" : "tblPostCodePopulationDensity";
+    return ", Population FROM " + view.table + " LEFT JOIN " + population + " ON " + view.table + "." + key + " = " +
+           population + ".Reference";
+}
+
+} // namespace
+
+std::string dataStatement(const DataView& view) {
+    const std::string key = keyColumn(view.boundary);
+    if (key.empty())
+        return "";
+    const bool rates = isPopulationTable(view);
+    const auto column = [&](const std::string& name) {
+        return rates ? rate(name, view) : counted(name, view, view.boundary != 5);
+    };
+    // CSGs are numbers: they are ordered as such.
+    const std::string order = view.boundary == 1 ? "Format( CSG, '0000')" : key;
+    return "Select " + key + ", " + measures(view, column) + costColumns(view) + source(view, key) + " ORDER BY " +
+           order;
+}
