@@ -1,0 +1,66 @@
+#include "ui/MessageBoxPrompts.h"
+
+#include "core/Version.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace {
+
+QMessageBox::Icon iconOf(PromptStyle style) {
+    switch (style) {
+    case PromptStyle::Question:
+        return QMessageBox::Question;
+    case PromptStyle::Information:
+        return QMessageBox::Information;
+    case PromptStyle::Stop:
+        return QMessageBox::Critical;
+    case PromptStyle::Plain:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+/// Return takes the first button, Escape the last.
+void setButtons(QMessageBox& box, PromptButtons buttons) {
+    switch (buttons) {
+    case PromptButtons::Ok:
+        box.setStandardButtons(QMessageBox::Ok);
+        break;
+    case PromptButtons::OkCancel:
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Ok);
+        break;
+    case PromptButtons::YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+        break;
+    }
+}
+
+PromptAnswer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Yes:
+        return PromptAnswer::Yes;
+    case QMessageBox::No:
+        return PromptAnswer::No;
+    case QMessageBox::Cancel:
+        return PromptAnswer::Cancel;
+    default:
+        return PromptAnswer::Ok;
+    }
+}
+
+} // namespace
+
+PromptAnswer MessageBoxPrompts::messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) {
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MessageBox"));
+    box.setWindowTitle(QString::fromUtf8(programTitle));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(text));
+    box.setIcon(iconOf(style));
+    setButtons(box, buttons);
+    return answerOf(box.exec());
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "core/Prompts.h"
+
+/// Prompts as message boxes over the active window, with the program's title. In force as long as it lives.
+class MessageBoxPrompts : public Prompts {
+public:
+    MessageBoxPrompts() { setPrompts(this); }
+    ~MessageBoxPrompts() override { setPrompts(nullptr); }
+    MessageBoxPrompts(const MessageBoxPrompts&) = delete;
+    MessageBoxPrompts& operator=(const MessageBoxPrompts&) = delete;
+
+    PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) override;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "ui/cColours_CS.h"
+
+#include <QColor>
+
+class QApplication;
+
+/// The colours of gColours, or the product's own where it is not set.
+cColours_CS skinColours();
+
+inline QColor toColor(Colour colour) {
+    return QColor::fromRgb(redOf(colour), greenOf(colour), blueOf(colour));
+}
+
+/// The one look of all windows: style, palette, style sheet, window icon. Controls choose a variant by a property:
+/// a QPushButton "kind" of "primary" (one per window), "danger" or "link"; a QLabel "role" of "title", "caption" or
+/// "headline".
+void applySkin(QApplication& application);

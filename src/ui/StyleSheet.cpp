@@ -1,0 +1,68 @@
+#include "ui/StyleSheet.h"
+
+#include "ui/cColours_CS.h"
+
+namespace {
+
+/// Names in angle brackets stand for shades of the palette.
+constexpr const char* sheet = R"(
+QLabel { background: transparent; }
+QLabel[role="title"] { font-size: 14pt; font-weight: bold; color: <indigo6>; }
+QLabel[role="headline"] { font-size: 18pt; font-weight: bold; color: <indigo6>; }
+QLabel[role="caption"] { font-size: 9pt; color: <grey5>; }
+QLabel[role="section"] { font-weight: bold; color: <grey6>; }
+
+QPushButton { background: white; color: <indigo5>; border: 1px solid <indigo2>; border-radius: 6px;
+              padding: 6px 16px; min-height: 18px; }
+QPushButton:hover { background: <indigo1>; border-color: <indigo3>; }
+QPushButton:pressed { background: <indigo2>; }
+QPushButton:focus { border: 2px solid <turquoise5>; padding: 5px 15px; }
+QPushButton:disabled { background: <grey2>; color: <grey4>; border-color: <grey3>; }
+QPushButton[kind="primary"], QMessageBox QPushButton:default { background: <indigo5>; color: white; border-color: <indigo5>; }
+QPushButton[kind="primary"]:hover, QMessageBox QPushButton:default:hover { background: <indigo4>; }
+QPushButton[kind="primary"]:pressed, QMessageBox QPushButton:default:pressed { background: <indigo6>; }
+QPushButton[kind="primary"]:focus, QMessageBox QPushButton:default:focus { border-color: <turquoise4>; }
+QPushButton[kind="primary"]:disabled { background: <grey3>; color: <grey5>; border-color: <grey3>; }
+QPushButton[kind="danger"] { color: <coral6>; border-color: <coral3>; }
+QPushButton[kind="danger"]:hover { background: <coral1>; border-color: <coral6>; }
+QMessageBox QPushButton { min-width: 72px; }
+
+QListView { background: white; border: none; outline: none; padding: 4px; }
+QListView::item { border-radius: 6px; padding: 7px 8px; color: <grey6>; }
+QListView::item:hover { background: <indigo1>; }
+QListView::item:selected { background: <indigo2>; color: <indigo6>; }
+QListView::item:focus { border: 1px solid <turquoise5>; }
+QListView::item:disabled { color: <grey4>; }
+
+QProgressBar { background: <grey3>; border: none; border-radius: 4px; min-height: 8px; max-height: 8px; }
+QProgressBar::chunk { background: <indigo5>; border-radius: 4px; }
+
+QToolTip { background: white; color: <grey6>; border: 1px solid <grey3>; padding: 4px; }
+
+QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }
+QScrollBar:horizontal { background: transparent; height: 12px; margin: 2px; }
+QScrollBar::handle { background: <grey3>; border-radius: 4px; min-height: 32px; min-width: 32px; }
+QScrollBar::handle:hover { background: <grey4>; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+)";
+
+QString hex(Colour colour) {
+    return QStringLiteral("#%1").arg(colour, 6, 16, QLatin1Char('0'));
+}
+
+} // namespace
+
+QString styleSheet(const cColours_CS& colours) {
+    QString text = QString::fromLatin1(sheet);
+    for (int shade = 1; shade <= cColours::shades; ++shade) {
+        const auto insert = [&](const char* ramp, Colour colour) {
+            text.replace(QStringLiteral("<%1%2>").arg(QLatin1String(ramp)).arg(shade), hex(colour));
+        };
+        insert("indigo", colours.Indigo(shade));
+        insert("coral", colours.Coral(shade));
+        insert("turquoise", colours.Turquoise(shade));
+        insert("grey", colours.Grey(shade));
+    }
+    return text;
+}
