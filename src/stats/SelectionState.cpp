@@ -1,0 +1,5 @@
+#include "stats/SelectionState.h"
+
+std::string SelectionDescription;
+bool GroupLimitExceeded = false;
+bool FilterActive = false;

@@ -1,0 +1,99 @@
+#include "stats/TargetTable.h"
+
+#include "core/RuntimeError.h"
+#include "data/project/Databases.h"
+#include "data/project/SystemDatabaseStep.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array<Measure, 11> allMeasures{
+    Measure::TotalCalls,  Measure::Answered,        Measure::Ineffective, Measure::Cost,
+    Measure::Revenue,     Measure::Engaged,         Measure::RTNR,        Measure::Other,
+    Measure::LostCallers, Measure::AnsweredCallers, Measure::AverageCalls};
+
+} // namespace
+
+TargetTable::TargetTable(std::string table, std::string_view areaColumn, int period)
+    : table_(std::move(table)), areaColumn_(areaColumn), period_(period) {}
+
+Recordset& TargetTable::rows() {
+    if (!rows_)
+        throw RuntimeError(91, "Object variable not set");
+    return *rows_;
+}
+
+void TargetTable::read() {
+    rows_ = systemDatabase().openRecordset("SELECT * FROM " + table_ + " ORDER BY " + areaColumn_);
+    hit_ = false;
+    positions_.clear();
+    for (const Measure measure : allMeasures) {
+        const std::string column = measureColumn(measure, period_);
+        for (int position = 0; position < rows_->fieldCount(); ++position) {
+            if (equalText(rows_->field(position).name, column))
+                positions_[measure] = position;
+        }
+    }
+}
+
+void TargetTable::close() {
+    if (rows_)
+        rows_->Close();
+    rows_.reset();
+}
+
+bool TargetTable::findFirst(const std::string& expression) {
+    rows().FindFirst(expression);
+    hit_ = hit_ || !rows().NoMatch();
+    return !rows().NoMatch();
+}
+
+bool TargetTable::findForward(const std::string& expression) {
+    if (!hit_)
+        return findFirst(expression);
+    rows().FindNext(expression);
+    return !rows().NoMatch();
+}
+
+std::string TargetTable::areaIs(std::string_view area) const {
+    return areaColumn_ + " = '" + std::string(area) + "'";
+}
+
+std::string TargetTable::upperAreaIs(std::string_view area) const {
+    return "UCASE(" + areaColumn_ + ") = '" + upperText(area) + "'";
+}
+
+void TargetTable::addArea(const Value& area) {
+    rows().AddNew();
+    rows().set(0, area);
+    for (int position = 1; position < rows().fieldCount(); ++position)
+        rows().set(position, 0);
+    rows().Update();
+    rows().MoveLast();
+    hit_ = true;
+}
+
+void TargetTable::set(Measure measure, const Value& value) {
+    const auto column = positions_.find(measure);
+    if (column != positions_.end())
+        rows().set(column->second, value);
+}
+
+void TargetTable::write(const std::vector<MeasureValue>& values) {
+    rows().Edit();
+    for (const auto& [measure, value] : values)
+        set(measure, value);
+    rows().Update();
+}
+
+void TargetTable::zeroPeriod() {
+    const std::vector<MeasureValue> zeros = [] {
+        std::vector<MeasureValue> values;
+        for (const Measure measure : allMeasures)
+            values.push_back({measure, 0});
+        return values;
+    }();
+    for (; !rows().EOF_(); rows().MoveNext())
+        onSystemDatabase([&] { write(zeros); });
+}
