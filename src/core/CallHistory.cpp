@@ -9,6 +9,7 @@ namespace CallHistory {
 
 namespace {
 
+constexpr std::string_view separators = "/\\";
 constexpr std::size_t longestWhole = 30; ///< characters, not bytes
 
 bool continuesCharacter(char byte) {
@@ -44,7 +45,6 @@ std::vector<std::string> readRows(const std::string& file) {
 }
 
 std::string shortened(std::string_view path) {
-    constexpr std::string_view separators = "/\\";
     if (endOfCharacters(path, longestWhole) == path.size())
         return std::string(path);
     // The search for separators begins at the last character but one and ends at the second.
@@ -54,6 +54,12 @@ std::string shortened(std::string_view path) {
     if (second == std::string_view::npos || second == 0)
         return std::string(path);
     return std::string(path.substr(0, endOfCharacters(path, 3))) + ".." + std::string(path.substr(second + 1));
+}
+
+std::string shortName(std::string_view path) {
+    const std::string_view stem = path.substr(0, path.find('.'));
+    const std::size_t separator = stem.find_last_of(separators);
+    return std::string(separator == std::string_view::npos ? stem : stem.substr(separator + 1));
 }
 
 } // namespace CallHistory

@@ -20,4 +20,7 @@ std::vector<std::string> readRows(const std::string& file);
 /// one. "C:\Data\Projects\Customer\March.mdb" shows as "C:\..Customer\March.mdb". Others show as they are.
 std::string shortened(std::string_view path);
 
+/// The name under which windows show a project: its path before the first ".", behind the last separator before that.
+std::string shortName(std::string_view path);
+
 } // namespace CallHistory

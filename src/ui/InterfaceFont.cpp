@@ -10,12 +10,12 @@ bool addFontResource(const std::string& path) {
     return QFontDatabase::addApplicationFont(QString::fromStdString(path)) >= 0;
 }
 
-void applyInterfaceFont(QApplication& application) {
+void applyInterfaceFont() {
     const QString calibri = QStringLiteral("Calibri");
     if (!QFont::substitutes(calibri).contains(QStringLiteral("carlito"), Qt::CaseInsensitive))
         QFont::insertSubstitution(calibri, QStringLiteral("Carlito"));
     QFont font(QString::fromStdString(gsFontName));
     font.setPointSizeF(10);
     font.setStyleHint(QFont::SansSerif);
-    application.setFont(font);
+    QApplication::setFont(font);
 }

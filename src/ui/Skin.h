@@ -14,6 +14,6 @@ inline QColor toColor(Colour colour) {
 }
 
 /// The one look of all windows: style, palette, style sheet, window icon. Controls choose a variant by a property:
-/// a QPushButton "kind" of "primary" (one per window), "danger" or "link"; a QLabel "role" of "title", "caption" or
+/// a QPushButton "kind" of "primary" (one per window) or "danger"; a QLabel "role" of "title", "caption" or
 /// "headline".
 void applySkin(QApplication& application);

@@ -51,4 +51,12 @@ TEST(CallHistory, ShortensLongPaths) {
         EXPECT_EQ(CallHistory::shortened(c.path), c.shown) << c.name;
 }
 
+TEST(CallHistory, NamesProjectsShort) {
+    EXPECT_EQ(CallHistory::shortName(R"(C:\Data\March.mdb)"), "March");
+    EXPECT_EQ(CallHistory::shortName("/data/March.final.mdb"), "March");
+    EXPECT_EQ(CallHistory::shortName("/data.old/projects/March.mdb"), "data") << "the first point counts";
+    EXPECT_EQ(CallHistory::shortName("March"), "March");
+    EXPECT_EQ(CallHistory::shortName(""), "");
+}
+
 } // namespace

@@ -1,0 +1,114 @@
+#include "report/FrmMain.h"
+
+#include "core/CallHistory.h"
+#include "core/FileNames.h"
+#include "core/ModDeclarations.h"
+#include "core/Version.h"
+#include "core/cPathControl.h"
+#include "report/HistoryPanel.h"
+#include "report/NoProjectPage.h"
+#include "report/ReleaseSystemDatabase.h"
+#include "report/ReportStatus.h"
+#include "ui/AppIcon.h"
+#include "ui/uctFooter.h"
+#include "ui/uctHeader.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+FrmMain::FrmMain(QWidget* parent)
+    : QWidget(parent), uctHeader1(new uctHeader(this)), Label3(uctHeader1->detailLabel()),
+      historyPanel_(new HistoryPanel(this)), status_(new ReportStatus(this)), uctFooter1(new uctFooter(this)) {
+    setObjectName(QStringLiteral("FrmMain"));
+    uctHeader1->setObjectName(QStringLiteral("uctHeader1"));
+    uctHeader1->sloganLabel()->setObjectName(QStringLiteral("lblSlogan"));
+    uctHeader1->pictureLabel()->setObjectName(QStringLiteral("imgGlobe"));
+    uctFooter1->setObjectName(QStringLiteral("uctFooter1"));
+    Label3->setObjectName(QStringLiteral("Label3"));
+    CmdClose()->setObjectName(QStringLiteral("CmdClose"));
+    arrange();
+    setUpKeys();
+    Form_Load();
+}
+
+void FrmMain::Form_Load() {
+    setWindowTitle(QString::fromStdString(std::string(programTitle) + " v" + gsVersion));
+    setWindowIcon(appIcon());
+    uctHeader1->setTitle(QString::fromUtf8(programTitle));
+    uctHeader1->SetPicture(appIcon());
+    CmdClose()->setText(tr("&Close"));
+    CmdClose()->setToolTip(tr("Close the program"));
+    readHistory();
+    showProjectName();
+    LstHistory()->setFocus();
+}
+
+void FrmMain::arrange() {
+    auto* middle = new QScrollArea(this);
+    middle->setObjectName(QStringLiteral("Frame1"));
+    middle->setWidgetResizable(true);
+    middle->setFrameShape(QFrame::NoFrame);
+    middle->setFocusPolicy(Qt::NoFocus);
+    middle->viewport()->setAutoFillBackground(false);
+    middle->setWidget(new NoProjectPage);
+    middle->widget()->setAutoFillBackground(false);
+    historyPanel_->setMinimumWidth(160);
+    historyPanel_->setMaximumWidth(280);
+
+    auto* body = new QHBoxLayout;
+    body->setContentsMargins(16, 16, 16, 8);
+    body->setSpacing(16);
+    body->addWidget(historyPanel_, 1);
+    body->addWidget(middle, 3);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(uctHeader1);
+    column->addLayout(body, 1);
+    column->addWidget(status_);
+    column->addWidget(uctFooter1);
+    setMinimumSize(560, 360);
+    resize(1160, 720);
+}
+
+void FrmMain::setUpKeys() {
+    connect(CmdClose(), &QPushButton::clicked, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
+    connect(historyPanel_, &HistoryPanel::rowChosen, this, &FrmMain::historyRowChosen);
+}
+
+void FrmMain::readHistory() {
+    const std::string folder = gPaths ? gPaths->ApplicationDataPath : std::string();
+    historyPanel_->showRows(CallHistory::readRows(fileInFolder(folder, CallHistory::fileName)));
+}
+
+void FrmMain::showProjectName() {
+    Label3->setText(gdbProject ? QString::fromStdString(CallHistory::shortName(gsProjectPath))
+                               : tr("Please select a file"));
+}
+
+QListWidget* FrmMain::LstHistory() const {
+    return historyPanel_->list();
+}
+
+QPushButton* FrmMain::CmdClose() const {
+    return uctFooter1->exitButton();
+}
+
+/// While long work runs the window is disabled, and then it stays.
+void FrmMain::closeEvent(QCloseEvent* event) {
+    if (!isEnabled()) {
+        event->ignore();
+        return;
+    }
+    releaseSystemDatabase();
+    event->accept();
+    QCoreApplication::exit(0);
+}

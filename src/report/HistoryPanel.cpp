@@ -1,0 +1,54 @@
+#include "report/HistoryPanel.h"
+
+#include "core/CallHistory.h"
+
+#include <QLabel>
+#include <QListWidget>
+#include <QShortcut>
+#include <QStyle>
+#include <QVBoxLayout>
+
+HistoryPanel::HistoryPanel(QWidget* parent) : ucWebbyBorder(parent), LstHistory(new QListWidget(this)) {
+    LstHistory->setObjectName(QStringLiteral("LstHistory"));
+    LstHistory->setAccessibleName(tr("Recent projects"));
+    LstHistory->setTextElideMode(Qt::ElideMiddle);
+    LstHistory->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    LstHistory->setFrameShape(QFrame::NoFrame);
+    LstHistory->setUniformItemSizes(true);
+    addHeading();
+    layout()->addWidget(LstHistory);
+
+    connect(LstHistory, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { emit rowChosen(LstHistory->row(item)); });
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* choose = new QShortcut(QKeySequence(key), LstHistory, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(choose, &QShortcut::activated, this, [this] {
+            if (LstHistory->currentRow() >= 0)
+                emit rowChosen(LstHistory->currentRow());
+        });
+    }
+}
+
+void HistoryPanel::addHeading() {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(8, 12, 8, 8);
+    column->setSpacing(4);
+    auto* heading = new QLabel(tr("&Projects"), this);
+    heading->setProperty("role", "section");
+    heading->setContentsMargins(12, 0, 0, 4);
+    heading->setBuddy(LstHistory);
+    column->addWidget(heading);
+}
+
+void HistoryPanel::showRows(const std::vector<std::string>& rows) {
+    LstHistory->clear();
+    for (const std::string& row : rows) {
+        auto* item = new QListWidgetItem(QString::fromStdString(CallHistory::shortened(row)), LstHistory);
+        if (row == CallHistory::moreFiles) {
+            item->setIcon(style()->standardIcon(QStyle::SP_DirOpenIcon));
+            item->setToolTip(tr("Look for a project file"));
+        } else {
+            item->setToolTip(QString::fromStdString(row));
+        }
+    }
+}
