@@ -10,6 +10,7 @@
 #include "report/ReleaseSystemDatabase.h"
 #include "report/ReportStatus.h"
 #include "ui/AppIcon.h"
+#include "ui/Skin.h"
 #include "ui/uctFooter.h"
 #include "ui/uctHeader.h"
 
@@ -92,6 +93,7 @@ void FrmMain::readHistory() {
 void FrmMain::showProjectName() {
     Label3->setText(gdbProject ? QString::fromStdString(CallHistory::shortName(gsProjectPath))
                                : tr("Please select a file"));
+    setRole(*Label3, gdbProject ? "detail" : "hint");
 }
 
 QListWidget* FrmMain::LstHistory() const {

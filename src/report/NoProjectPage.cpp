@@ -9,6 +9,9 @@
 
 namespace {
 
+constexpr int badgeSide = 24;
+constexpr int gap = 12;
+
 class GlobePicture : public QWidget {
 public:
     explicit GlobePicture(QWidget* parent) : QWidget(parent) {
@@ -28,7 +31,7 @@ protected:
 
 NoProjectPage::NoProjectPage(QWidget* parent) : ucWebbyBorder(parent) {
     auto* column = new QVBoxLayout;
-    column->setSpacing(12);
+    column->setSpacing(gap);
     addPicture(*column);
     auto* headline = new QLabel(tr("Open a project to begin"), this);
     headline->setObjectName(QStringLiteral("lblNoProject"));
@@ -37,9 +40,7 @@ NoProjectPage::NoProjectPage(QWidget* parent) : ucWebbyBorder(parent) {
     headline->setWordWrap(true);
     column->addWidget(headline);
     column->addSpacing(4);
-    addStep(*column, 1, tr("Choose a recent project at the left, or “More files ..” to look for one."));
-    addStep(*column, 2, tr("Set the dates, the hours and the numbers that the report shall cover."));
-    addStep(*column, 3, tr("Press a kind of area and see on the map where the calls come from."));
+    addSteps(*column);
 
     auto* middle = new QHBoxLayout;
     middle->addStretch(1);
@@ -57,19 +58,35 @@ void NoProjectPage::addPicture(QVBoxLayout& column) {
     column.addSpacing(4);
 }
 
-void NoProjectPage::addStep(QVBoxLayout& column, int number, const QString& text) {
-    auto* badge = new QLabel(QString::number(number), this);
-    badge->setProperty("role", "step");
-    badge->setAlignment(Qt::AlignCenter);
-    badge->setFixedSize(24, 24);
-    auto* words = new QLabel(text, this);
-    words->setWordWrap(true);
-    words->setMaximumWidth(440);
+/// As wide as the longest step, so that they stand in the middle; narrower windows wrap them.
+void NoProjectPage::addSteps(QVBoxLayout& column) {
+    auto* steps = new QWidget(this);
+    auto* grid = new QGridLayout(steps);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(gap);
+    grid->setVerticalSpacing(gap);
+    grid->setColumnStretch(1, 1);
+    addStep(*grid, tr("Choose a recent project at the left, or “More files ..” to look for one."));
+    addStep(*grid, tr("Set the dates, the hours and the numbers that the report shall cover."));
+    addStep(*grid, tr("Press a kind of area and see on the map where the calls come from."));
     auto* row = new QHBoxLayout;
-    row->setSpacing(12);
     row->addStretch(1);
-    row->addWidget(badge, 0, Qt::AlignTop);
-    row->addWidget(words, 100);
+    row->addWidget(steps, 1000);
     row->addStretch(1);
     column.addLayout(row);
+}
+
+void NoProjectPage::addStep(QGridLayout& grid, const QString& text) {
+    QWidget* steps = grid.parentWidget();
+    const int row = grid.rowCount();
+    auto* badge = new QLabel(QString::number(row), steps);
+    badge->setProperty("role", "step");
+    badge->setAlignment(Qt::AlignCenter);
+    badge->setFixedSize(badgeSide, badgeSide);
+    auto* words = new QLabel(text, steps);
+    words->setWordWrap(true);
+    const int whole = words->fontMetrics().horizontalAdvance(text) + badgeSide + 2 * gap;
+    steps->setMaximumWidth(row == 1 ? whole : std::max(whole, steps->maximumWidth()));
+    grid.addWidget(badge, row, 0, Qt::AlignTop);
+    grid.addWidget(words, row, 1, Qt::AlignVCenter);
 }

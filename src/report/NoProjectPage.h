@@ -2,6 +2,7 @@
 
 #include "ui/ucWebbyBorder.h"
 
+class QGridLayout;
 class QVBoxLayout;
 
 /// What the main window shows while no project is open: what to do first.
@@ -13,5 +14,6 @@ public:
 
 private:
     void addPicture(QVBoxLayout& column);
-    void addStep(QVBoxLayout& column, int number, const QString& text);
+    void addSteps(QVBoxLayout& column);
+    void addStep(QGridLayout& grid, const QString& text);
 };

@@ -50,7 +50,7 @@ private:
 };
 
 QPainterPath netOf(int meridians, int parallels) {
-    constexpr int steps = 72;
+    constexpr int steps = 180;
     QPainterPath net;
     for (int m = 0; m < meridians; ++m) {
         NetLine line;
@@ -111,7 +111,12 @@ void paintGlobe(QPainter& painter, const QRectF& box, GlobeStyle style) {
 
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(colours.net, small ? 0.12 : 0.035));
+    QPainterPath disc;
+    disc.addEllipse(QPointF(0, 0), 1.0, 1.0);
+    painter.save();
+    painter.setClipPath(disc);
     painter.drawPath(small ? netOf(2, 1) : netOf(6, 5));
+    painter.restore();
     paintPin(painter, colours, small);
     painter.restore();
 }

@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QStyle>
 #include <QStyleFactory>
+#include <QWidget>
 
 namespace {
 
@@ -40,4 +42,10 @@ void applySkin(QApplication& application) {
     QApplication::setPalette(paletteOf(colours));
     application.setStyleSheet(styleSheet(colours));
     QApplication::setWindowIcon(appIcon());
+}
+
+void setRole(QWidget& control, const char* role) {
+    control.setProperty("role", role);
+    control.style()->unpolish(&control);
+    control.style()->polish(&control);
 }

@@ -5,6 +5,7 @@
 #include <QColor>
 
 class QApplication;
+class QWidget;
 
 /// The colours of gColours, or the product's own where it is not set.
 cColours_CS skinColours();
@@ -17,3 +18,6 @@ inline QColor toColor(Colour colour) {
 /// a QPushButton "kind" of "primary" (one per window) or "danger"; a QLabel "role" of "title", "caption" or
 /// "headline".
 void applySkin(QApplication& application);
+
+/// Changes the variant of a control that is already shown.
+void setRole(QWidget& control, const char* role);

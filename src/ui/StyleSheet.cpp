@@ -10,6 +10,7 @@ QLabel { background: transparent; }
 QLabel[role="title"] { font-size: 14pt; font-weight: bold; color: <indigo6>; }
 QLabel[role="headline"] { font-size: 18pt; font-weight: bold; color: <indigo6>; }
 QLabel[role="caption"] { font-size: 9pt; color: <grey5>; }
+QLabel[role="hint"] { color: <grey5>; }
 QLabel[role="detail"] { font-size: 11pt; font-weight: bold; color: <coral6>; }
 QLabel[role="step"] { background: <indigo5>; color: white; border-radius: 12px; font-weight: bold; }
 QLabel[role="section"] { font-weight: bold; color: <grey6>; }
