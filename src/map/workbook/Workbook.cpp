@@ -135,11 +135,12 @@ std::vector<ParameterLine> parameterLines(const WorkbookParameters& parameters) 
 }
 
 void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, Recordset& rows,
-                   const std::optional<std::string>& picture) {
+                   std::span<const unsigned char> picture) {
     Book book(path);
     fillParameters(book, parameters);
     fillData(book, rows);
-    if (picture && worksheet_insert_image(book.sheet("Map"), 0, 0, picture->c_str()) != LXW_NO_ERROR)
-        throw RuntimeError(75, "The picture '" + *picture + "' cannot be put into a workbook");
+    if (!picture.empty() &&
+        worksheet_insert_image_buffer(book.sheet("Map"), 0, 0, picture.data(), picture.size()) != LXW_NO_ERROR)
+        throw RuntimeError(75, "The picture of the map cannot be put into '" + path + "'");
     book.close();
 }

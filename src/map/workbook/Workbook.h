@@ -1,6 +1,6 @@
 #pragma once
 
-#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -13,11 +13,11 @@ struct WorkbookParameters {
 };
 
 /// Writes a workbook with the sheet "Parameters", a sheet "Data" with one line for each row of `rows` under the
-/// captions of its fields, and, where a picture is given, a sheet "Map" with it. Texts of money columns stay texts, as
-/// the grid shows them. `picture` is the path of a PNG file. Leaves the cursor of `rows` behind the last row. Throws
+/// captions of its fields, and, where `picture` is not empty, a sheet "Map" with it. Texts of money columns stay texts,
+/// as the grid shows them. `picture` is the path of a PNG file. Leaves the cursor of `rows` behind the last row. Throws
 /// RuntimeError 75, naming the path, where the file cannot be written.
 void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, Recordset& rows,
-                   const std::optional<std::string>& picture = {});
+                   std::span<const unsigned char> picture = {});
 
 /// The lines of the sheet "Parameters": two cells each.
 struct ParameterLine {

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "map/Boundaries.h"
+#include "map/MapFormState.h"
+#include "stats/CurrentTables.h"
+#include "stats/MapMaxima.h"
+
+#include <string>
+#include <vector>
+
+class MapKey;
+class MapSurface;
+
+/// Turns a choice of boundary, map type and data set into the layers of a map surface, its key, and the read-outs of
+/// the window. Reads the statistics from gdbSystem and the tables that `currentTables` names. A failing step is logged
+/// and the next one runs, so that a map is drawn from whatever the tables hold. Holds references only; main thread.
+class ThematicMap {
+public:
+    ThematicMap(MapSurface& MapSurface1, MapKey& MapKey1, MapFormState& form, CurrentTables& tables,
+                const MapMaxima& maxima);
+
+    /// Builds and draws the map. `boundary` and `mapType` are codes, `dataSet` counts from 1 to 7. Always true.
+    bool CreateMap(long boundary, long mapType, int dataSet);
+    /// Leaves the current layer with one symbol and its file closed.
+    void ClearMap();
+    /// Appends the layer of names. `animated` changes nothing.
+    void AddLabelLayer(long boundary, bool animated = false);
+    /// Below customer groups: the areas that belong to no group, in white, and Ireland.
+    void FrmMap_DisplayNonGroupAreas(long mapType, int dataSet);
+    void FrmMap_AddIreland();
+
+private:
+    struct Plan; // the names that a map is built from
+
+    Plan planOf(long boundary, long mapType, int dataSet) const;
+    void deleteUpperLayers();
+    void readExtremes(const Plan& plan);
+    void enableDensities(long boundary);
+    void setUpBaseLayer(const Plan& plan);
+    void buildBands(const Plan& plan);
+    void buildNumericBands(const Plan& plan, const std::vector<std::string>& breaks);
+    void buildTextBands(const std::vector<std::string>& texts);
+    std::string valuesOfColumn(const Plan& plan) const;
+    void captureView();
+    void showPeriod();
+    void addGeographyLayer(const std::string& name, const Boundary& base);
+    const Boundary& baseBoundary() const;
+    bool labelsAreVisible(long boundary) const;
+
+    MapSurface& surface_;
+    MapKey& key_;
+    MapFormState& form_;
+    CurrentTables& tables_;
+    const MapMaxima& maxima_;
+};

@@ -1,0 +1,176 @@
+#include "map/surface/MapSurface.h"
+
+#include "data/engine/Database.h"
+#include "data/types/DatabaseError.h"
+#include "map/surface/LayerSource.h"
+
+#include <exception>
+
+namespace {
+
+constexpr long InvalidPropertyValue = 380;
+constexpr long InvalidProcedureCall = 5;
+
+std::size_t checkedIndex(int index, std::size_t count, const char* property) {
+    if (index < 0 || static_cast<std::size_t>(index) >= count)
+        throw RuntimeError(InvalidPropertyValue, std::string("Invalid property value: ") + property + " " +
+                                                     std::to_string(index) + " of " + std::to_string(count));
+    return static_cast<std::size_t>(index);
+}
+
+QRectF boundsOf(const LayerContent& content) {
+    QRectF bounds;
+    bool first = true;
+    for (const DrawnShape& drawn : content.shapes) {
+        const QRectF& shape = content.table->shapes()[drawn.shape].bounds;
+        // QRectF::united leaves out boxes without extent, as points have.
+        bounds =
+            first ? shape
+                  : QRectF(QPointF(std::min(bounds.left(), shape.left()), std::min(bounds.top(), shape.top())),
+                           QPointF(std::max(bounds.right(), shape.right()), std::max(bounds.bottom(), shape.bottom())));
+        first = false;
+    }
+    return bounds;
+}
+
+} // namespace
+
+struct MapSurface::Source {
+    std::string dataSource;             // the text under which the rows were read
+    std::string sql;                    // and the statement
+    std::shared_ptr<Database> database; // null: not open
+    std::optional<std::vector<LayerRow>> rows;
+};
+
+MapSurface::MapSurface() {
+    sources_.push_back(std::make_unique<Source>());
+}
+
+MapSurface::~MapSurface() = default;
+
+void MapSurface::setLayerIndex(int index) {
+    layerIndex_ = checkedIndex(index, scene_.layers.size(), "LayerIndex");
+    symbolIndex_ = 0;
+}
+
+void MapSurface::setSymbolIndex(int index) {
+    symbolIndex_ = checkedIndex(index, layer().symbols.size(), "SymbolIndex");
+}
+
+void MapSurface::AddLayer() {
+    scene_.layers.emplace_back();
+    sources_.push_back(std::make_unique<Source>());
+}
+
+void MapSurface::DeleteLayer() {
+    if (layerIndex_ == 0)
+        throw RuntimeError(InvalidPropertyValue, "Invalid property value: the base layer cannot be deleted");
+    scene_.layers.erase(scene_.layers.begin() + static_cast<std::ptrdiff_t>(layerIndex_));
+    sources_.erase(sources_.begin() + static_cast<std::ptrdiff_t>(layerIndex_));
+    layerIndex_ = std::min(layerIndex_, scene_.layers.size() - 1);
+    symbolIndex_ = 0;
+}
+
+void MapSurface::AddSymbol() {
+    layer().symbols.emplace_back();
+}
+
+void MapSurface::DeleteSymbol() {
+    auto& symbols = layer().symbols;
+    if (symbols.size() == 1)
+        throw RuntimeError(InvalidPropertyValue, "Invalid property value: a layer has at least one symbol");
+    symbols.erase(symbols.begin() + static_cast<std::ptrdiff_t>(symbolIndex_));
+    symbolIndex_ = std::min(symbolIndex_, symbols.size() - 1);
+}
+
+void MapSurface::CloseLayerSource(int index) {
+    *sources_[checkedIndex(index, sources_.size(), "LayerIndex")] = Source();
+}
+
+std::shared_ptr<Recordset> MapSurface::LayerRecordset() {
+    Layer plain = layer();
+    const std::string table = shapeTableOf(plain.LayerCoverageName, plain.LayerInterpretation);
+    const bool polygons = plain.LayerInterpretation == CoverageKind::Polygons;
+    plain.LayerSymbolExpression = table + (polygons ? ".CenterX" : ".XCoord");
+    plain.LayerLabelSource = table + (polygons ? ".CenterY" : ".YCoord");
+    return LayerSource::parse(plain.LayerDataSource).open()->openRecordset(LayerQuery::of(plain).sql);
+}
+
+void MapSurface::ZoomToExtent() {
+    const LayerContent content = contentOf(layerIndex_);
+    if (!KeepDataSourcesOpen)
+        release(layerIndex_);
+    if (content.shapes.empty())
+        throw RuntimeError(InvalidProcedureCall, "The layer \"" + layer().LayerName + "\" has no shapes to show");
+    camera_.showAll(boundsOf(content));
+}
+
+void MapSurface::DrawMap() {
+    if (DrawMapStarted)
+        DrawMapStarted();
+    std::exception_ptr failure;
+    std::vector<LayerContent> contents(scene_.layers.size());
+    for (std::size_t i = 0; i < scene_.layers.size(); ++i) {
+        if (!isDrawnAt(scene_.layers[i], camera_.scale()))
+            continue;
+        try {
+            contents[i] = contentOf(i);
+        } catch (const RuntimeError&) {
+            if (!failure)
+                failure = std::current_exception();
+        }
+    }
+    for (std::size_t i = 0; i < sources_.size() && !KeepDataSourcesOpen; ++i)
+        release(i);
+    picture_ = painter_.paint(scene_, contents, camera_, style);
+    if (DrawMapFinished)
+        DrawMapFinished();
+    if (failure)
+        std::rethrow_exception(failure);
+}
+
+LayerContent MapSurface::contentOf(std::size_t index) {
+    const Layer& layer = scene_.layers[index];
+    LayerContent content;
+    if (layer.LayerCoverageName.empty())
+        return content;
+    try {
+        const std::vector<LayerRow>& rows = rowsOf(index, LayerQuery::of(layer));
+        content.table =
+            geometry_.shapes(databaseOf(index), shapeTableOf(layer.LayerCoverageName, layer.LayerInterpretation),
+                             layer.LayerInterpretation);
+        content.shapes.reserve(rows.size());
+        for (const LayerRow& row : rows) {
+            for (std::size_t shape : content.table->find(row.id))
+                content.shapes.push_back({shape, symbolOf(layer, row.value), row.label});
+        }
+    } catch (const RuntimeError& error) {
+        throw RuntimeError(error.number(), "Layer \"" + layer.LayerName + "\": " + error.description());
+    }
+    return content;
+}
+
+const std::vector<LayerRow>& MapSurface::rowsOf(std::size_t index, const LayerQuery& query) {
+    Source& source = *sources_[index];
+    const std::string& dataSource = scene_.layers[index].LayerDataSource;
+    if (source.dataSource != dataSource)
+        source = Source();
+    if (!source.rows || source.sql != query.sql) {
+        source.rows = readLayerRows(databaseOf(index), query);
+        source.sql = query.sql;
+    }
+    return *source.rows;
+}
+
+Database& MapSurface::databaseOf(std::size_t index) {
+    Source& source = *sources_[index];
+    if (!source.database) {
+        source.dataSource = scene_.layers[index].LayerDataSource;
+        source.database = LayerSource::parse(source.dataSource).open();
+    }
+    return *source.database;
+}
+
+void MapSurface::release(std::size_t index) {
+    sources_[index]->database.reset();
+}

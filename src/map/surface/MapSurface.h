@@ -1,0 +1,101 @@
+#pragma once
+
+#include "map/surface/GeometryCache.h"
+#include "map/surface/LayerRows.h"
+#include "map/surface/MapPainter.h"
+
+#include <QImage>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+class Database;
+class Recordset;
+
+/// The mouse tools.
+enum class MapTool : long { Pan = 0, ZoomIn = 2, ZoomOut = 3, Information = 4, PolygonQuery = 7, ZoomToExtent = 8 };
+
+/// A map without a window: a stack of layers, a view, and the picture that the last draw left. Logic describes the
+/// layers and asks for a draw; it never draws a polygon itself.
+///
+/// One layer is current, and in it one symbol; layer() and symbol() are their properties. Layer 0 always exists. What
+/// is added comes last and is not made current. An index or deletion that the rules forbid throws RuntimeError 380.
+/// Reading happens in DrawMap and ZoomToExtent alone: there a bad data source or a missing table is a RuntimeError that
+/// names the layer. Main thread.
+class MapSurface {
+public:
+    MapSurface();
+    ~MapSurface();
+    MapSurface(const MapSurface&) = delete;
+    MapSurface& operator=(const MapSurface&) = delete;
+
+    std::function<void()> DrawMapStarted;
+    std::function<void()> DrawMapFinished;
+
+    int NumberOfLayers() const { return static_cast<int>(scene_.layers.size()); }
+    int NumberOfSymbols() const { return static_cast<int>(scene_.layers[layerIndex_].symbols.size()); }
+    int LayerIndex() const { return static_cast<int>(layerIndex_); }
+    int SymbolIndex() const { return static_cast<int>(symbolIndex_); }
+    void setLayerIndex(int index); ///< makes the layer's first symbol current
+    void setSymbolIndex(int index);
+
+    Layer& layer() { return scene_.layers[layerIndex_]; }
+    Symbol& symbol() { return layer().symbols[symbolIndex_]; }
+    const Scene& scene() const { return scene_; }
+
+    void AddLayer();
+    void DeleteLayer(); ///< layer 0 is never deleted
+    void AddSymbol();
+    void DeleteSymbol(); ///< the last remaining symbol is never deleted
+
+    /// Drops the layer's open file and rows: the file is free, and the next draw reads the tables again. Shapes stay.
+    void CloseLayerSource(int index);
+    /// The rows of the current layer: identifier, and of polygons CenterX and CenterY, then its LayerFields. Opened
+    /// anew at each call.
+    std::shared_ptr<Recordset> LayerRecordset();
+
+    double MapCenterX() const { return camera_.center().x(); }
+    double MapCenterY() const { return camera_.center().y(); }
+    double MapScale() const { return camera_.scale(); }
+    void setMapCenterX(double x) { camera_.setCenter({x, MapCenterY()}); }
+    void setMapCenterY(double y) { camera_.setCenter({MapCenterX(), y}); }
+    void setMapScale(double scale) { camera_.setScale(scale); }
+    void CentreMapOn(double x, double y) { camera_.setCenter({x, y}); }
+    /// Shows the whole of the current layer. Throws RuntimeError 5 where it has no shapes.
+    void ZoomToExtent();
+    const Camera& camera() const { return camera_; }
+    void setPixelSize(QSize devicePixels) { camera_.setPixelSize(devicePixels); }
+
+    MapTool UIMode = MapTool::Information;
+    bool KeepDataSourcesOpen = false; ///< false: no file stays open between draws
+    std::string ToolBarSetup;
+    MapStyle style;
+
+    /// Draws every visible layer. A layer that cannot be read is left out; when the others are drawn and
+    /// DrawMapFinished is told, its error is thrown.
+    void DrawMap();
+    /// What the last draw left; null before the first.
+    const QImage& picture() const { return picture_; }
+
+    const GeometryCache& geometry() const { return geometry_; }
+
+private:
+    struct Source; // a layer's open file and the rows read from it
+
+    LayerContent contentOf(std::size_t index);
+    const std::vector<LayerRow>& rowsOf(std::size_t index, const LayerQuery& query);
+    Database& databaseOf(std::size_t index);
+    void release(std::size_t index);
+
+    Scene scene_;
+    std::vector<std::unique_ptr<Source>> sources_; // beside scene_.layers
+    std::size_t layerIndex_ = 0;
+    std::size_t symbolIndex_ = 0;
+    Camera camera_;
+    GeometryCache geometry_;
+    MapPainter painter_;
+    QImage picture_;
+};

@@ -1,0 +1,174 @@
+#include "map/surface/MapPainter.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+ShapeRing square(double x, double y, double side) {
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}, {x, y}};
+}
+
+MapShape polygon(std::int64_t id, std::vector<ShapeRing> rings) {
+    MapShape shape;
+    shape.id = id;
+    shape.shape.rings = std::move(rings);
+    const ShapeBounds bounds = boundsOf(shape.shape);
+    shape.bounds = QRectF(QPointF(bounds.lowX, bounds.lowY), QPointF(bounds.upX, bounds.upY));
+    shape.anchor = shape.bounds.center();
+    return shape;
+}
+
+/// One pixel for each map unit; the low left corner of the map's first 100 units is the view's.
+Camera squareCamera() {
+    Camera camera;
+    camera.setPixelSize({100, 100});
+    camera.setScale(100);
+    camera.setCenter({50, 50});
+    return camera;
+}
+
+Symbol fill(MapColourCode colour) {
+    Symbol symbol;
+    symbol.SymbolPolygonColor = colour;
+    return symbol;
+}
+
+constexpr MapColourCode Red = 0x0000FF; // 0x00BBGGRR
+constexpr MapColourCode Green = 0x00FF00;
+
+/// A picture of one layer of polygons, all drawn with its first symbol.
+struct LayerFixture {
+    Scene scene;
+    std::vector<LayerContent> contents;
+
+    void add(std::vector<MapShape> shapes, const Symbol& symbol) {
+        if (!contents.empty())
+            scene.layers.emplace_back();
+        scene.layers.back().symbols = {symbol};
+        LayerContent content;
+        for (std::size_t i = 0; i < shapes.size(); ++i)
+            content.shapes.push_back({i, 0, ""});
+        content.table = std::make_shared<const ShapeTable>(std::move(shapes));
+        contents.push_back(std::move(content));
+    }
+    QImage paint(const Camera& camera) { return MapPainter().paint(scene, contents, camera, MapStyle()); }
+    /// The colour at a point of the map as squareCamera() shows it.
+    QColor at(double x, double y) {
+        return paint(squareCamera()).pixelColor(static_cast<int>(x), 99 - static_cast<int>(y));
+    }
+};
+
+const QColor Sea = MapStyle().sea;
+
+} // namespace
+
+TEST(MapPainter, FillsAPolygonInItsColourAndLeavesTheSea) {
+    LayerFixture map;
+    map.add({polygon(1, {square(10, 10, 50)})}, fill(Red));
+    EXPECT_EQ(map.at(30, 30), QColor(Qt::red));
+    EXPECT_EQ(map.at(80, 80), Sea);
+    EXPECT_EQ(map.at(30, 80), Sea) << "y runs upwards";
+}
+
+TEST(MapPainter, AHoleShowsWhatLiesBelow) {
+    LayerFixture map;
+    map.add({polygon(1, {square(40, 40, 40)})}, fill(Green));
+    map.add({polygon(1, {square(10, 10, 80), square(30, 30, 30)})}, fill(Red));
+    EXPECT_EQ(map.at(20, 20), QColor(Qt::red));
+    EXPECT_EQ(map.at(35, 35), Sea);
+    EXPECT_EQ(map.at(50, 50), QColor(0, 255, 0)) << "the layer below";
+    EXPECT_EQ(map.at(75, 75), QColor(Qt::red)) << "a later layer paints over an earlier one";
+}
+
+TEST(MapPainter, HolesStayHolesWhateverWayTheyRun) {
+    LayerFixture map;
+    ShapeRing reversed = square(30, 30, 30);
+    std::reverse(reversed.begin(), reversed.end());
+    map.add({polygon(1, {square(10, 10, 80), reversed})}, fill(Red));
+    EXPECT_EQ(map.at(45, 45), Sea);
+}
+
+TEST(MapPainter, AnUnfilledPolygonIsWhiteLandWithAnOutline) {
+    LayerFixture map;
+    Symbol outlined = fill(Red);
+    outlined.SymbolFilled = false;
+    map.add({polygon(1, {square(10, 10, 50)})}, outlined);
+    EXPECT_EQ(map.at(30, 30), QColor(Qt::white));
+    EXPECT_NE(map.at(10, 30), QColor(Qt::white));
+    EXPECT_NE(map.at(10, 30), Sea);
+}
+
+TEST(MapPainter, NeighboursLeaveNoGapBetweenThem) {
+    LayerFixture map;
+    const double border = 40.37; // falls between two pixels
+    map.add({polygon(1, {{{10, 10}, {border, 10}, {border, 90}, {10, 90}, {10, 10}}}),
+             polygon(2, {{{border, 10}, {90, 10}, {90, 90}, {border, 90}, {border, 10}}})},
+            fill(Red));
+    for (int x = 15; x < 85; ++x)
+        EXPECT_GT(map.at(x, 50).red(), 130) << "the sea shines through at " << x;
+    for (int x = 15; x < 85; ++x)
+        EXPECT_LT(map.at(x, 50).green(), 200) << "the sea shines through at " << x;
+}
+
+TEST(MapPainter, DrawsTheSameWhetherClippedOrNot) {
+    LayerFixture map;
+    map.add({polygon(1, {square(-5000000, 20, 10000000)}), polygon(2, {square(10, -30, 40)})}, fill(Red));
+    EXPECT_EQ(map.at(70, 60), QColor(Qt::red)) << "far larger than the view";
+    EXPECT_EQ(map.at(70, 10), Sea);
+    EXPECT_EQ(map.at(20, 5), QColor(Qt::red));
+}
+
+TEST(MapPainter, AVeryCloseViewShowsTheInsideOfAPolygon) {
+    LayerFixture map;
+    map.add({polygon(1, {square(0, 0, 120000)})}, fill(Red));
+    Camera camera = squareCamera();
+    camera.setScale(Camera::SmallestScale);
+    camera.setCenter({60000, 60000});
+    EXPECT_EQ(map.paint(camera).pixelColor(50, 50), QColor(Qt::red));
+}
+
+TEST(MapPainter, RecolouringUsesTheNewColours) {
+    LayerFixture map;
+    map.add({polygon(1, {square(10, 10, 50)})}, fill(Red));
+    MapPainter painter;
+    painter.paint(map.scene, map.contents, squareCamera(), MapStyle());
+    map.scene.layers[0].symbols[0] = fill(Green);
+    const QImage second = painter.paint(map.scene, map.contents, squareCamera(), MapStyle());
+    EXPECT_EQ(second.pixelColor(30, 70), QColor(0, 255, 0));
+    Camera moved = squareCamera();
+    moved.setCenter({80, 50});
+    EXPECT_EQ(painter.paint(map.scene, map.contents, moved, MapStyle()).pixelColor(60, 70), Sea);
+}
+
+TEST(MapPainter, LayersOutsideTheirZoomOrHiddenAreNotDrawn) {
+    LayerFixture map;
+    map.add({polygon(1, {square(10, 10, 50)})}, fill(Red));
+    map.scene.layers[0].LayerToZoomTrigger = 99;
+    EXPECT_EQ(map.at(30, 30), Sea);
+    map.scene.layers[0].LayerToZoomTrigger = 100;
+    EXPECT_EQ(map.at(30, 30), QColor(Qt::red));
+    map.scene.layers[0].LayerVisible = false;
+    EXPECT_EQ(map.at(30, 30), Sea);
+}
+
+TEST(MapPainter, LabelsAreDarkOnALightRim) {
+    LayerFixture map;
+    Symbol symbol = fill(Red);
+    symbol.SymbolEnableLabels = true;
+    symbol.SymbolLabelFont = {"DejaVu Sans", 20};
+    map.add({polygon(1, {square(10, 10, 80)})}, symbol);
+    map.contents[0].shapes[0].label = "H";
+    const QImage picture = map.paint(squareCamera());
+    int dark = 0, light = 0;
+    for (int y = 25; y < 75; ++y) {
+        for (int x = 25; x < 75; ++x) {
+            const QColor colour = picture.pixelColor(x, y);
+            dark += colour.red() < 60;
+            light += colour.red() > 200 && colour.green() > 150;
+        }
+    }
+    EXPECT_GT(dark, 30);
+    EXPECT_GT(light, 30);
+    map.scene.layers[0].symbols[0].SymbolEnableLabels = false;
+    EXPECT_EQ(map.at(50, 50), QColor(Qt::red));
+}
