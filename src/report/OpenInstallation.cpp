@@ -1,0 +1,84 @@
+#include "report/OpenInstallation.h"
+
+#include "core/ModDeclarations.h"
+#include "core/RuntimeError.h"
+#include "core/cPathControl.h"
+#include "data/project/CreateLinkTables.h"
+#include "data/project/Databases.h"
+#include "data/project/FirstValue.h"
+#include "data/project/OpenProjectDatabase.h"
+#include "data/project/SetPopulationFlags.h"
+#include "data/schema/Vocabulary.h"
+#include "data/types/DatabaseError.h"
+#include "report/ReportRun.h"
+
+#include <filesystem>
+
+namespace {
+
+/// The tables without which a file is no project.
+void requireProjectTables(Database& database, const std::string& path) {
+    for (const std::string_view table : {"TblTeleItem", "TblGIS", "Tbl50", "TblCallSummary1"}) {
+        if (!database.tableDefs().find(table))
+            throw RuntimeError(3078, "'" + path + "' is no project: it has no table " + std::string(table));
+    }
+    if (database.openRecordset("Select Top 1 * From Tblteleitem")->EOF_())
+        throw RuntimeError(5, "'" + path +
+                                  "': This is an invalid project file. Only files containing ERD data can be used.");
+}
+
+/// An error of a file's contents names the file.
+template<typename Step>
+void namingFile(const std::string& path, Step step) {
+    try {
+        step();
+    } catch (const DatabaseError& error) {
+        if (error.description().find(path) != std::string::npos)
+            throw;
+        throw DatabaseError(error.number(), "'" + path + "': " + error.description());
+    }
+}
+
+} // namespace
+
+void openInstallation(const std::string& folder) {
+    const std::string paths = joinPath(folder, "Paths.txt");
+    if (!std::filesystem::is_regular_file(toPath(paths)))
+        throw RuntimeError(53, "There is no installation in '" + folder + "': '" + paths + "' is missing");
+    gPaths = std::make_shared<cPathControl>(folder, folder);
+    if (const std::string system = joinPath(folder, "system"); std::filesystem::is_directory(toPath(system)))
+        gPaths->SystemDataPath = system;
+    gsSystemDBPath = joinPath(gPaths->ApplicationDataPath, "ukmap.mdb");
+    reopenSystemDatabase();
+    namingFile(gsSystemDBPath, [] { firstValue(systemDatabase(), "SELECT TOP 1 Version FROM TblVersion"); });
+}
+
+void openProject(const std::string& path) {
+    namingFile(path, [&] {
+        const auto database = defaultWorkspace()->openDatabase(path, Workspace::Access::ReadOnly, ProjectConnect);
+        requireProjectTables(*database, path);
+    });
+    gsProjectPath = path;
+    if (!OpenProjectDatabase(path))
+        throw RuntimeError(5, "Unable to open Project Database '" + path + "'");
+    if (const auto account = firstValue(projectDatabase(), "SELECT TallyAccount FROM Tbl50"))
+        gsAccount = account->asText();
+    if (ModUtilities_CreateLinkTables() != 0)
+        throw RuntimeError(5, "Could not link to project database '" + path + "'");
+    SetPopulationFlags();
+}
+
+ReportParameters wholeProject() {
+    ReportParameters parameters;
+    const auto period = projectDatabase().openRecordset("SELECT SBSStartDate, SBSEndDate FROM TblCallSummary1");
+    if (period->EOF_())
+        throw RuntimeError(3021, "'" + gsProjectPath + "' does not tell its period: TblCallSummary1 has no row");
+    parameters.DTStart = period->value(0).asDate();
+    parameters.DTEnd = period->value(1).asDate();
+    return parameters;
+}
+
+void countWholeProject(long boundary) {
+    SelectionSql.clear();
+    countCalls(boundary, mainTable(boundary));
+}

@@ -1,0 +1,210 @@
+#include "core/ModDeclarations.h"
+#include "core/RuntimeError.h"
+#include "core/cPathControl.h"
+#include "data/project/Databases.h"
+#include "data/project/FirstValue.h"
+#include "map/MapFormState.h"
+#include "map/MapMeasures.h"
+#include "map/ReportPicture.h"
+#include "map/ThematicMap.h"
+#include "map/surface/MapKey.h"
+#include "map/surface/MapSurface.h"
+#include "map/workbook/DataStatement.h"
+#include "map/workbook/Workbook.h"
+#include "report/OpenInstallation.h"
+#include "report/ReportRun.h"
+#include "stats/SelectionState.h"
+#include "tools/callscope-tool/Commands.h"
+#include "tools/callscope-tool/ReportOptions.h"
+#include "tools/callscope-tool/TextOutput.h"
+
+#include <CLI/CLI.hpp>
+
+#include <QBuffer>
+#include <QGuiApplication>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+/// Names and lengths of the stages of a run, shown at its end.
+class StageTimes {
+public:
+    template<typename Stage>
+    void measure(const std::string& name, Stage stage) {
+        const auto start = std::chrono::steady_clock::now();
+        stage();
+        const auto length = std::chrono::steady_clock::now() - start;
+        lines_ += name + std::string(12 - std::min<std::size_t>(name.size(), 11), ' ') +
+                  std::to_string(std::chrono::duration_cast<std::chrono::milliseconds>(length).count()) + " ms\n";
+    }
+    const std::string& lines() const { return lines_; }
+
+private:
+    std::string lines_;
+};
+
+/// The map of a report, without a window.
+struct DrawnMap {
+    MapSurface surface;
+    MapKey key{surface};
+    MapFormState form;
+};
+
+std::string dateText(Date date) {
+    return Value(date).asText();
+}
+
+std::string timeText(Date time) {
+    const std::string text = Value(time).asText();
+    return time.days == 0.0 ? "00:00:00" : text;
+}
+
+void describeMap(DrawnMap& map, const ReportOptions& options, const ReportParameters& parameters, long mapType) {
+    map.form.periods.MapStartDate[1] = parameters.DTStart;
+    map.form.periods.MapEndDate[1] = parameters.DTEnd;
+    map.form.periods.MapStartTime[1] = parameters.DTStartTime[0];
+    map.form.periods.MapEndTime[1] = parameters.DTStartTime[1];
+    map.key.font.family = gsFontName;
+    ThematicMap(map.surface, map.key, map.form, currentTables, mapMaxima).CreateMap(options.boundaryCode(), mapType, 1);
+}
+
+QImage drawPicture(DrawnMap& map, const ReportOptions& options) {
+    const Boundary& boundary = *findBoundary(options.boundaryCode());
+    ReportCaption caption;
+    caption.title = std::string(boundary.text) + " · " + options.mapType;
+    caption.subtitle = toText(toPath(options.project).stem());
+    caption.parameters = SelectionDescription;
+    caption.showsMinimum = boundary.showsMinimum;
+    return drawReportPicture(map.surface, map.key, map.form, caption, QSize(options.width(), options.height()));
+}
+
+QByteArray pngOf(const QImage& picture) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    picture.save(&buffer, "PNG");
+    return bytes;
+}
+
+/// A stream to a file that is to be written; throws where it cannot be.
+std::ofstream outputFile(const std::string& path) {
+    std::ofstream stream(toPath(path), std::ios::binary | std::ios::trunc);
+    if (!stream)
+        throw RuntimeError(75, "The file '" + path + "' cannot be written");
+    return stream;
+}
+
+void finish(std::ofstream& stream, const std::string& path) {
+    stream.flush();
+    if (!stream)
+        throw RuntimeError(75, "The file '" + path + "' cannot be written to its end");
+}
+
+void writePng(const std::string& path, const QByteArray& png) {
+    std::ofstream stream = outputFile(path);
+    stream.write(png.constData(), png.size());
+    finish(stream, path);
+}
+
+void writeCsv(const std::string& path, const std::string& table) {
+    const auto rows = systemDatabase().openRecordset("SELECT * FROM " + table);
+    std::ofstream stream = outputFile(path);
+    writeRows(stream, *rows, TextFormat::Csv);
+    finish(stream, path);
+}
+
+void writeXlsx(const ReportOptions& options, const ReportParameters& parameters, const ReportFigures& figures,
+               const QByteArray& png) {
+    DataView view;
+    view.boundary = static_cast<int>(options.boundaryCode());
+    view.table = figures.table;
+    view.hasCostColumns =
+        systemDatabase().tableDefs().find(figures.table)->findField("AreaCostPerAnsweredCall") != nullptr;
+    view.hasPopulation = view.boundary == 2 ? gbTVPopulation : gbPostCodePopulation;
+    const auto rows = systemDatabase().openRecordset(dataStatement(view));
+    const WorkbookParameters words{dateText(parameters.DTStart), timeText(parameters.DTStartTime[0]),
+                                   dateText(parameters.DTEnd), timeText(parameters.DTStartTime[1]),
+                                   SelectionDescription};
+    outputFile(options.xlsx).close(); // says so where the place cannot be written
+    writeWorkbook(options.xlsx, words, *rows,
+                  {reinterpret_cast<const unsigned char*>(png.constData()), static_cast<std::size_t>(png.size())});
+}
+
+void showFigures(const ReportOptions& options, const ReportFigures& figures, const DrawnMap& map, long mapType) {
+    const Boundary& boundary = *findBoundary(options.boundaryCode());
+    const std::string column = statisticsColumn(mapType, 1);
+    const auto total = firstValue(systemDatabase(), "SELECT Sum(" + column + ") FROM " + figures.table);
+    const auto& words = map.form.LblStatusValue;
+    std::cout << "boundary    " << boundary.text << '\n'
+              << "map type    " << options.mapType << '\n'
+              << "table       " << figures.table << '\n'
+              << "maximum     " << words[4] << ' ' << words[5] << '\n';
+    if (boundary.showsMinimum)
+        std::cout << "minimum     " << words[6] << ' ' << words[7] << '\n';
+    std::cout << "total       " << unitSignOf(column) << (total ? total->asText() : "0") << '\n';
+}
+
+long mapTypeNamed(const std::string& name) {
+    for (const MapMeasure& measure : mapMeasures()) {
+        if (measure.text == name)
+            return measure.mapType;
+    }
+    return 0;
+}
+
+/// Fonts and painting need the library's application object, but never a display.
+void startPainting() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1;
+    static char name[] = "callscope-tool";
+    static char* arguments[] = {name, nullptr};
+    static QGuiApplication application(count, arguments);
+    gsFontName = "Calibri";
+}
+
+int runReportCommand(const ReportOptions& options) {
+    if (options.engine == "scan")
+        throw RuntimeError(5, "The calls can be counted by statements only");
+    const long mapType = mapTypeNamed(options.mapType);
+    StageTimes times;
+    mainTable(options.boundaryCode()); // refuses before anything is opened
+    times.measure("opening", [&] {
+        openInstallation(options.dir);
+        openProject(options.project);
+    });
+    const ReportParameters parameters = options.parameters(wholeProject());
+    if (parameters.DTEnd.days < parameters.DTStart.days)
+        throw RuntimeError(5, "Invalid date selection, report abandoned");
+    times.measure("capture", [&] { countWholeProject(options.boundaryCode()); });
+    ReportFigures figures;
+    times.measure("figures", [&] { figures = runReport(options.boundaryCode(), parameters); });
+
+    startPainting();
+    DrawnMap map;
+    QByteArray png;
+    times.measure("map", [&] { describeMap(map, options, parameters, mapType); });
+    if (!options.png.empty() || !options.xlsx.empty())
+        times.measure("picture", [&] { png = pngOf(drawPicture(map, options)); });
+    if (!options.png.empty())
+        writePng(options.png, png);
+    if (!options.csv.empty())
+        writeCsv(options.csv, figures.table);
+    if (!options.xlsx.empty())
+        writeXlsx(options, parameters, figures, png);
+    showFigures(options, figures, map, mapType);
+    std::cout << times.lines();
+    return Done;
+}
+
+} // namespace
+
+void addReportCommand(CLI::App& app, Action& action) {
+    CLI::App* command = app.add_subcommand("report", "Counts the calls of a project by area and draws the map");
+    const auto options = addReportOptions(*command);
+    command->callback([options, &action] { action = [options] { return runReportCommand(*options); }; });
+}
