@@ -1,8 +1,9 @@
 #include "core/cPathControl.h"
 #include "data/schema/Vocabulary.h"
 #include "tests/app/ScriptedStart.h"
-#include "tests/core/ScriptedPrompts.h"
-#include "tests/core/TemporaryFolder.h"
+#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TextFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 #include "core/FileNames.h"
-#include "tests/core/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TextFile.h"
 
 #include <gtest/gtest.h>
 

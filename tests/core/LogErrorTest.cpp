@@ -1,7 +1,8 @@
 #include "core/LogError.h"
 #include "core/ModDeclarations.h"
 #include "core/cPathControl.h"
-#include "tests/core/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TextFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "core/RuntimeError.h"
 #include "core/cPathControl.h"
-#include "tests/core/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TextFile.h"
 
 #include <gtest/gtest.h>
 

@@ -22,6 +22,12 @@ public:
 
     std::string file(const std::string& name) const { return (path_ / name).string(); }
     const std::filesystem::path& path() const { return path_; }
+    std::string text() const { return path_.string(); }
+    /// Makes a folder in it and gives its path.
+    std::string makeFolder(const std::string& name) const {
+        std::filesystem::create_directories(path_ / name);
+        return file(name);
+    }
 
 private:
     std::filesystem::path path_;
