@@ -1,8 +1,13 @@
 #include "map/surface/LabelPlacement.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
+
+/// Where a label looks for room, in shares of its width and height; near enough to stay with its area.
+constexpr std::array Nudges{QPointF(0.0, 0.0), QPointF(0.0, -0.6), QPointF(0.0, 0.6), QPointF(0.3, 0.0),
+                            QPointF(-0.3, 0.0)};
 
 double leftOf(double anchor, double width, LabelJustification justification) {
     switch (justification) {
@@ -28,28 +33,36 @@ double topOf(double anchor, double height, LabelBaseline baseline) {
     return anchor - height / 2.0;
 }
 
-/// `low` moved so that a stretch of `length` lies between 0 and `end`; the beginning has precedence where it is too
-/// long.
-double movedInside(double low, double length, double begin, double end) {
+/// `low` moved so that a stretch of `length` lies between `begin` and `end`; what is too long begins at `begin`.
+double movedBetween(double low, double length, double begin, double end) {
     return std::max(begin, std::min(low, end - length));
 }
 
 } // namespace
 
 std::optional<QRectF> LabelPlacement::place(const QSizeF& size, const QPointF& anchor, LabelJustification justification,
-                                            LabelBaseline baseline, bool dropOnCollision) {
-    if (!view_.contains(anchor))
+                                            LabelBaseline baseline, bool avoidCollisions) {
+    if (!isInView(anchor))
         return {};
-    const double left = leftOf(anchor.x(), size.width(), justification);
-    const double top = topOf(anchor.y(), size.height(), baseline);
-    const QRectF box(QPointF(movedInside(left, size.width(), view_.left(), view_.right()),
-                             movedInside(top, size.height(), view_.top(), view_.bottom())),
-                     size);
+    const QRectF wanted(
+        QPointF(leftOf(anchor.x(), size.width(), justification), topOf(anchor.y(), size.height(), baseline)), size);
+    for (const QPointF& nudge : Nudges) {
+        const QRectF box = movedIntoView(wanted.translated(nudge.x() * size.width(), nudge.y() * size.height()));
+        if (!avoidCollisions || !collides(box)) {
+            taken_.push_back(box);
+            return box;
+        }
+    }
+    return {};
+}
+
+QRectF LabelPlacement::movedIntoView(const QRectF& box) const {
+    return {QPointF(movedBetween(box.left(), box.width(), view_.left(), view_.right()),
+                    movedBetween(box.top(), box.height(), view_.top(), view_.bottom())),
+            box.size()};
+}
+
+bool LabelPlacement::collides(const QRectF& box) const {
     const QRectF kept = box.adjusted(-gap_, -gap_, gap_, gap_);
-    const bool collides =
-        std::any_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(kept); });
-    if (dropOnCollision && collides)
-        return {};
-    taken_.push_back(box);
-    return box;
+    return std::any_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(kept); });
 }

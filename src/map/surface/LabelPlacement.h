@@ -15,12 +15,18 @@ public:
     /// `view`: the picture. `gap`: pixels kept free between two labels.
     explicit LabelPlacement(const QRectF& view, double gap = 2.0) : view_(view), gap_(gap) {}
 
-    /// The box of a label of `size` at `anchor`, moved just inside the view where it would stick out. Nothing where its
-    /// anchor is out of view, or where `dropOnCollision` is set and the box would touch a label that already stands.
+    bool isInView(const QPointF& anchor) const { return view_.contains(anchor); }
+
+    /// The box of a label of `size` at `anchor`, moved just inside the view where it would stick out. With
+    /// `avoidCollisions` a label that would touch another moves a little to one side, and is dropped where that does
+    /// not help: then, and where the anchor is out of view, there is no box.
     std::optional<QRectF> place(const QSizeF& size, const QPointF& anchor, LabelJustification justification,
-                                LabelBaseline baseline, bool dropOnCollision);
+                                LabelBaseline baseline, bool avoidCollisions);
 
 private:
+    QRectF movedIntoView(const QRectF& box) const;
+    bool collides(const QRectF& box) const;
+
     QRectF view_;
     double gap_;
     std::vector<QRectF> taken_;

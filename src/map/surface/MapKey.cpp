@@ -1,5 +1,6 @@
 #include "map/surface/MapKey.h"
 
+#include "map/surface/LabelPainter.h"
 #include "map/surface/MapSurface.h"
 
 #include <QFontMetricsF>

@@ -1,23 +1,33 @@
 #include "map/surface/MapPainter.h"
 
-#include <QFontMetricsF>
+#include "map/surface/LabelPainter.h"
+
 #include <QPainter>
-#include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
-/// Interface pixels.
+// Interface pixels.
 constexpr double OutlineWidth = 0.8;
-constexpr double HaloWidth = 3.0;
 constexpr double PointRadius = 2.5;
-constexpr double PixelsPerPoint = 96.0 / 72.0;
+constexpr double LabelGap = 2.0;
+/// An area of this size and above has its outline in full; below the outline fades into the area's own colour, or a
+/// town of small areas would be nothing but outlines.
+constexpr double FullOutlineSize = 28.0;
+constexpr double FaintestOutline = 0.08;
 
 constexpr const char* NoSymbol = "No Symbol";
 
-QPen outlinePen(const Symbol& symbol, const MapStyle& style) {
-    QPen pen(colourOf(symbol.SymbolPolygonBorderColor), OutlineWidth * style.devicePixelRatio);
+QColor mixed(const QColor& a, const QColor& b, double shareOfB) {
+    const auto part = [shareOfB](int from, int to) { return qRound(from + (to - from) * shareOfB); };
+    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
+}
+
+QPen outlinePen(const Symbol& symbol, const QColor& fill, double pixelSize, const MapStyle& style) {
+    const double share = std::clamp(pixelSize / (FullOutlineSize * style.devicePixelRatio), FaintestOutline, 1.0);
+    QPen pen(mixed(fill, colourOf(symbol.SymbolPolygonBorderColor), share), OutlineWidth * style.devicePixelRatio);
     pen.setCosmetic(true);
     pen.setJoinStyle(Qt::RoundJoin);
     return pen;
@@ -36,55 +46,7 @@ void paintPoints(QPainter& painter, const Layer& layer, const LayerContent& cont
     }
 }
 
-/// Text with a light rim, so that it reads on every colour below it. `box` is the text's own.
-void paintLabel(QPainter& painter, const QString& text, const QRectF& box, const QFont& font, const Symbol& symbol,
-                const MapStyle& style) {
-    QPainterPath glyphs;
-    glyphs.addText(box.left(), box.top() + QFontMetricsF(font).ascent(), font, text);
-    painter.strokePath(
-        glyphs, QPen(style.halo, HaloWidth * style.devicePixelRatio, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(glyphs, colourOf(symbol.SymbolLabelColor));
-}
-
-void paintLabels(QPainter& painter, const Layer& layer, const LayerContent& content, const Camera& camera,
-                 const MapStyle& style, LabelPlacement& placement) {
-    std::vector<QFont> fonts;
-    for (const Symbol& symbol : layer.symbols)
-        fonts.push_back(labelFont(symbol.SymbolLabelFont, style.devicePixelRatio));
-    for (const DrawnShape& drawn : content.shapes) {
-        const Symbol& symbol = layer.symbols[drawn.symbol];
-        if (!symbol.SymbolEnableLabels || drawn.label.empty())
-            continue;
-        const QString text = QString::fromStdString(drawn.label);
-        const QFontMetricsF metrics(fonts[drawn.symbol]);
-        const QPointF anchor = camera.mapToScreen(content.table->shapes()[drawn.shape].anchor);
-        const auto box =
-            placement.place(QSizeF(metrics.horizontalAdvance(text), metrics.height()), anchor,
-                            symbol.SymbolLabelJustification, symbol.SymbolLabelBaseline, layer.LayerCheckForOverlap);
-        if (box)
-            paintLabel(painter, text, *box, fonts[drawn.symbol], symbol, style);
-    }
-}
-
 } // namespace
-
-QColor colourOf(MapColourCode code) {
-    return QColor::fromRgb(swapRedAndBlue(code));
-}
-
-QFont labelFont(const LabelFont& font, double devicePixelRatio) {
-    // The second name of a pair has the widths of the first and is what free systems have in its place.
-    QStringList families{QString::fromStdString(font.family)};
-    if (equalText(font.family, "Calibri"))
-        families << "Carlito";
-    families << "Arial"
-             << "Liberation Sans"
-             << "DejaVu Sans";
-    QFont result;
-    result.setFamilies(families);
-    result.setPixelSize(std::max(1, qRound(font.size * PixelsPerPoint * devicePixelRatio)));
-    return result;
-}
 
 QImage MapPainter::paint(const Scene& scene, const std::vector<LayerContent>& contents, const Camera& camera,
                          const MapStyle& style) {
@@ -92,7 +54,7 @@ QImage MapPainter::paint(const Scene& scene, const std::vector<LayerContent>& co
     picture.fill(style.sea);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    LabelPlacement placement(QRectF(QPointF(0, 0), QSizeF(camera.pixelSize())), 2.0 * style.devicePixelRatio);
+    LabelPlacement placement(QRectF(QPointF(0, 0), QSizeF(camera.pixelSize())), LabelGap * style.devicePixelRatio);
     for (std::size_t i = 0; i < scene.layers.size() && i < contents.size(); ++i) {
         const Layer& layer = scene.layers[i];
         if (!contents[i].table || !isDrawnAt(layer, camera.scale()))
@@ -114,8 +76,11 @@ void MapPainter::paintPolygons(QPainter& painter, const Layer& layer, const Laye
         if (path.isEmpty())
             continue;
         const Symbol& symbol = layer.symbols[drawn.symbol];
-        painter.setBrush(symbol.SymbolFilled ? colourOf(symbol.SymbolPolygonColor) : style.land);
-        painter.setPen(outlinePen(symbol, style));
+        const QColor fill = symbol.SymbolFilled ? colourOf(symbol.SymbolPolygonColor) : style.land;
+        const QRectF& bounds = content.table->shapes()[drawn.shape].bounds;
+        const double pixelSize = std::sqrt(bounds.width() * bounds.height()) / camera.unitsPerPixel();
+        painter.setBrush(fill);
+        painter.setPen(outlinePen(symbol, fill, pixelSize, style));
         painter.drawPath(path);
     }
 }

@@ -13,20 +13,28 @@ std::optional<QRectF> centred(LabelPlacement& placement, QPointF anchor, bool dr
 
 } // namespace
 
-TEST(LabelPlacement, ALabelThatTouchesAnotherIsDropped) {
+TEST(LabelPlacement, ALabelThatTouchesAnotherMovesALittle) {
     LabelPlacement placement(View);
     EXPECT_EQ(centred(placement, {100, 100}), QRectF(70, 90, 60, 20));
-    EXPECT_FALSE(centred(placement, {140, 110}));
-    EXPECT_FALSE(centred(placement, {161, 100})) << "a gap is kept between two labels";
-    EXPECT_TRUE(centred(placement, {163, 100}));
-    EXPECT_TRUE(centred(placement, {100, 123}));
+    EXPECT_EQ(centred(placement, {110, 111}), QRectF(80, 113, 60, 20)) << "0.6 of its height down";
+    EXPECT_EQ(centred(placement, {146, 100}), QRectF(134, 90, 60, 20)) << "0.3 of its width to the right";
+    EXPECT_EQ(centred(placement, {49, 100}), QRectF(1, 90, 60, 20)) << "and to the left";
 }
 
-TEST(LabelPlacement, ADroppedLabelTakesNoRoom) {
+TEST(LabelPlacement, WhereMovingDoesNotHelpItIsDroppedAndTakesNoRoom) {
     LabelPlacement placement(View);
     EXPECT_TRUE(centred(placement, {100, 100}));
-    EXPECT_FALSE(centred(placement, {150, 100}));
-    EXPECT_TRUE(centred(placement, {180, 100}));
+    EXPECT_FALSE(centred(placement, {105, 101}));
+    EXPECT_FALSE(centred(placement, {100, 100}));
+    EXPECT_TRUE(centred(placement, {163, 100}));
+}
+
+TEST(LabelPlacement, AGapIsKeptBetweenTwoLabels) {
+    LabelPlacement placement(View, 5.0);
+    centred(placement, {100, 100});
+    const auto neighbour = centred(placement, {160, 100});
+    ASSERT_TRUE(neighbour);
+    EXPECT_GE(neighbour->left(), 135.0);
 }
 
 TEST(LabelPlacement, WithoutTheCheckEveryLabelStands) {

@@ -1,6 +1,6 @@
 #include "map/surface/MapKey.h"
 
-#include "map/surface/MapPainter.h"
+#include "map/surface/LabelPainter.h"
 #include "map/surface/MapSurface.h"
 
 #include <gtest/gtest.h>
