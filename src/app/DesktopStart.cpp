@@ -3,6 +3,7 @@
 #include "core/CommandLine.h"
 #include "data/project/OpenProjectDatabase.h"
 #include "data/project/UpdateMappingGISTable.h"
+#include "data/upkeep/CheckForNewUKMapDB.h"
 #include "report/FrmMain.h"
 #include "ui/InterfaceFont.h"
 
@@ -34,6 +35,8 @@ void DesktopStart::showMainWindow() {
 bool DesktopStart::mainWindowIsOpen() const {
     return mainWindow_ && mainWindow_->isVisible();
 }
+
+int DesktopStart::ModUtilities_CheckForNewUKMapDB() { return ::ModUtilities_CheckForNewUKMapDB(); }
 
 bool DesktopStart::OpenProjectDatabase(const std::string& path) {
     return ::OpenProjectDatabase(path);

@@ -34,18 +34,27 @@ bool ignoreErrors(const std::function<void()>& step) {
     }
 }
 
-void logCurrentError() noexcept {
+ErrorFacts currentError() {
     try {
         throw;
     } catch (const RuntimeError& error) {
-        LogError(gsCurrentProc, error.number(), error.what());
+        return {error.number(), error.what()};
     } catch (const std::filesystem::filesystem_error& error) {
-        LogError(gsCurrentProc, fileAccessError, error.what());
+        return {fileAccessError, error.what()};
     } catch (const std::bad_alloc&) {
-        LogError(gsCurrentProc, outOfMemory, "Out of memory");
+        return {outOfMemory, "Out of memory"};
     } catch (const std::exception& error) {
-        LogError(gsCurrentProc, internalError, error.what());
+        return {internalError, error.what()};
     } catch (...) {
-        LogError(gsCurrentProc, internalError, "Unknown error");
+        return {internalError, "Unknown error"};
+    }
+}
+
+void logCurrentError() noexcept {
+    try {
+        const ErrorFacts error = currentError();
+        LogError(gsCurrentProc, error.number, error.description);
+    } catch (...) {
+        // No memory even for the words.
     }
 }
