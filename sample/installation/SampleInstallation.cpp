@@ -4,6 +4,7 @@
 #include "core/cPathControl.h"
 #include "data/engine/Workspace.h"
 #include "sample/installation/CustomerGroupsFile.h"
+#include "sample/installation/ReportLogo.h"
 #include "sample/installation/SystemMapFile.h"
 
 #include <array>
@@ -31,16 +32,17 @@ SampleReport layOut(const std::string& root) {
     report.communityGroupsPath = joinPath(report.applicationFolder, "comgroups.mdb");
     report.deliveredMapPath = joinPath(report.systemFolder, "UKMap.BAK");
     report.projectTemplatePath = joinPath(report.systemFolder, "CSProject.bak");
+    report.logoPath = joinPath(report.systemFolder, "OstelReportLogo.jpg");
     report.projectPath = joinPath(report.projectFolder, "Sample.mdb");
     report.pathsFilePath = joinPath(root, "Paths.txt");
     return report;
 }
 
 /// Every file, in an order in which they can be put in place.
-std::array<std::string SampleReport::*, 7> files() {
+std::array<std::string SampleReport::*, 8> files() {
     return {&SampleReport::customerGroupsPath, &SampleReport::communityGroupsPath, &SampleReport::projectTemplatePath,
-            &SampleReport::projectPath,        &SampleReport::systemMapPath,       &SampleReport::deliveredMapPath,
-            &SampleReport::pathsFilePath};
+            &SampleReport::logoPath,           &SampleReport::projectPath,         &SampleReport::systemMapPath,
+            &SampleReport::deliveredMapPath,   &SampleReport::pathsFilePath};
 }
 
 /// Where the files are made before they go to their places; removed with all in it at the end, whatever happens.
@@ -89,6 +91,15 @@ void writePathsFile(const std::string& path, const std::string& root, const Samp
         throw RuntimeError(pathFileAccessError, "Cannot write " + path);
 }
 
+void writeLogo(const std::string& path) {
+    const auto bytes = reportLogo();
+    std::ofstream out(toPath(path), std::ios::binary);
+    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    out.close();
+    if (!out)
+        throw RuntimeError(pathFileAccessError, "Cannot write " + path);
+}
+
 /// Makes the files in the workshop, moves them, and ties them together where they lie then.
 SampleReport make(const SampleOptions& options, const std::string& root, const Geography& geography) {
     SampleReport report = layOut(root);
@@ -102,6 +113,7 @@ SampleReport make(const SampleOptions& options, const std::string& root, const G
     writeProjectTemplate(*workspace, made.projectTemplatePath);
     writeSystemMap(*workspace, made.systemMapPath, geography, codes);
     report.project = writeProject(*workspace, made.projectPath, geography, codes, options.calls, options.seed);
+    writeLogo(made.logoPath);
     writePathsFile(made.pathsFilePath, root, report);
 
     for (const char* folder : {"app", "system", "projects", "backup", "account"})

@@ -21,13 +21,14 @@ inline constexpr std::int64_t mostSampleCalls = 10'000'000;
 /// Where the parts of the installation lie (full paths), and how much there is of everything.
 struct SampleReport {
     std::string applicationFolder; ///< ukmap.mdb, CustomerGroups.mdb, comgroups.mdb
-    std::string systemFolder;      ///< UKMap.BAK, CSProject.bak
+    std::string systemFolder;      ///< UKMap.BAK, CSProject.bak, OstelReportLogo.jpg
     std::string projectFolder;
     std::string systemMapPath;
     std::string customerGroupsPath;
     std::string communityGroupsPath;
     std::string deliveredMapPath;
     std::string projectTemplatePath;
+    std::string logoPath;
     std::string projectPath;
     std::string pathsFilePath;
 
