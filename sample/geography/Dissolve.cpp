@@ -9,9 +9,9 @@ namespace sample {
 
 namespace {
 
-/// Vertices are given on a grid of sixteen centimetres. Its numbers are exact in a double, and so are sums of areas.
+/// Vertices are given on a grid of two centimetres. Its numbers are exact in a double, and so are sums of areas.
 MapPoint snapped(MapPoint p) {
-    constexpr double perUnit = 64;
+    constexpr double perUnit = 512;
     return {std::round(p.x * perUnit) / perUnit, std::round(p.y * perUnit) / perUnit};
 }
 

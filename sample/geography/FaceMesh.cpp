@@ -36,8 +36,8 @@ struct Sides {
 class MeshBuilder {
 public:
     MeshBuilder(const Coast& coast, const Voronoi& voronoi, std::span<const Site> sites, std::uint64_t seed)
-        : coast_(coast), voronoi_(voronoi), sites_(sites), seed_(seed), voronoiVertex_(voronoi.vertices.size(), -1),
-          cuts_(coast.segments().size()) {
+        : coast_(coast), voronoi_(voronoi), sites_(sites), seed_(seed),
+          voronoiVertex_(voronoi.vertices.size(), noVertex), cuts_(coast.segments().size()) {
         mesh_.vertices.assign(coast.vertices().begin(), coast.vertices().end());
     }
 
@@ -51,6 +51,8 @@ public:
     }
 
 private:
+    static constexpr int noVertex = -1;
+
     struct Cut {
         double t;
         int vertex;
@@ -63,7 +65,7 @@ private:
 
     int vertexOf(int voronoiVertex) {
         int& vertex = voronoiVertex_[static_cast<std::size_t>(voronoiVertex)];
-        if (vertex < 0)
+        if (vertex == noVertex)
             vertex = newVertex(voronoi_.vertices[static_cast<std::size_t>(voronoiVertex)]);
         return vertex;
     }
@@ -90,14 +92,15 @@ private:
 
         int ring = coast_.ringAt(from);
         MapPoint place = from;
-        int vertex = isHome(ring) ? vertexOf(edge.from) : -1;
+        int vertex = isHome(ring) ? vertexOf(edge.from) : noVertex;
         for (std::size_t i = 0; i < path.size(); ++i) {
-            for (const CoastCrossing& crossing : coast_.crossings(place, path[i])) {
-                const int cut = cutCoast(place + (path[i] - place) * crossing.t, crossing.segment);
-                if (isHome(ring))
-                    addEdge(vertex, cut, {ring, ring, edge.leftSite, edge.rightSite});
-                ring = crossing.ring;
-                vertex = cut;
+            const std::vector<CoastCrossing> crossings = coast_.crossings(place, path[i]);
+            const std::vector<int> cuts = cutCoast(place, path[i], crossings);
+            for (std::size_t k = 0; k < cuts.size(); ++k) {
+                if (isHome(ring) && cuts[k] != vertex)
+                    addEdge(vertex, cuts[k], {ring, ring, edge.leftSite, edge.rightSite});
+                ring = crossings[k].ring;
+                vertex = cuts[k];
             }
             place = path[i];
             if (!isHome(ring))
@@ -108,12 +111,44 @@ private:
         }
     }
 
-    int cutCoast(MapPoint place, int segment) {
+    bool hasEnd(int segment, int vertex) const {
         const Coast::Segment& s = coast_.segments()[static_cast<std::size_t>(segment)];
-        const MapPoint from = mesh_.vertices[static_cast<std::size_t>(s.from)];
-        const int vertex = newVertex(place);
-        cuts_[static_cast<std::size_t>(segment)].push_back({distance(from, place), vertex});
-        return vertex;
+        return s.from == vertex || s.to == vertex;
+    }
+
+    /// The end of the segment that is as good as at the place, or `noVertex`.
+    int endCloseTo(MapPoint place, int segment) const {
+        constexpr double close = 0.05;
+        const Coast::Segment& s = coast_.segments()[static_cast<std::size_t>(segment)];
+        for (const int end : {s.from, s.to})
+            if (distance(mesh_.vertices[static_cast<std::size_t>(end)], place) < close)
+                return end;
+        return noVertex;
+    }
+
+    /// The vertices where a straight line crosses the coast. Close to a vertex of the coast it is that vertex itself: a
+    /// piece of coast shorter than the grid of the finished shapes would make them cross themselves. A line that cuts
+    /// off such a corner then goes through the corner with both its crossings.
+    std::vector<int> cutCoast(MapPoint from, MapPoint to, const std::vector<CoastCrossing>& crossings) {
+        std::vector<int> cuts;
+        for (const CoastCrossing& crossing : crossings)
+            cuts.push_back(endCloseTo(from + (to - from) * crossing.t, crossing.segment));
+        for (std::size_t i = 1; i < cuts.size(); ++i) {
+            if (cuts[i] == noVertex && hasEnd(crossings[i].segment, cuts[i - 1]))
+                cuts[i] = cuts[i - 1];
+            else if (cuts[i - 1] == noVertex && hasEnd(crossings[i - 1].segment, cuts[i]))
+                cuts[i - 1] = cuts[i];
+        }
+        for (std::size_t i = 0; i < cuts.size(); ++i) {
+            if (cuts[i] != noVertex)
+                continue;
+            const std::size_t segment = static_cast<std::size_t>(crossings[i].segment);
+            const MapPoint place = from + (to - from) * crossings[i].t;
+            const auto start = static_cast<std::size_t>(coast_.segments()[segment].from);
+            cuts[i] = newVertex(place);
+            cuts_[segment].push_back({distance(mesh_.vertices[start], place), cuts[i]});
+        }
+        return cuts;
     }
 
     void addCoast() {
@@ -184,7 +219,7 @@ private:
     std::span<const Site> sites_;
     std::uint64_t seed_;
     FaceMesh mesh_;
-    std::vector<int> voronoiVertex_;     ///< its vertex in the mesh, -1 while it has none
+    std::vector<int> voronoiVertex_;     ///< its vertex in the mesh, while it has one
     std::vector<std::vector<Cut>> cuts_; ///< per segment of the coast
     std::vector<int> ring_;              ///< per half-edge, at its left
     std::vector<int> site_;              ///< per half-edge, at its left
