@@ -21,7 +21,7 @@ Value groupName(std::string_view name) {
 void writeAreaGroups(Database& database, const Geography& geography) {
     RowWriter groups(database, "TblGroups");
     for (const GroupMember& member : groupMembers(geography))
-        groups.add({tallyAccount, member.district, member.group, Value(), Value(), "USER"});
+        groups.add({tallyAccount, member.district, member.group});
     RowWriter names(database, "TblName");
     for (const BranchGroup& group : groupBranches(geography))
         names.add({tallyAccount, group.name});

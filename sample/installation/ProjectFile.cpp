@@ -24,7 +24,7 @@ void createTables(Database& project) {
 void writeGroups(Database& project, const Geography& geography) {
     RowWriter groups(project, "TblGroups");
     for (const GroupMember& member : groupMembers(geography))
-        groups.add({tallyAccount, member.district, member.group, Value(), Value(), "USER"});
+        groups.add({tallyAccount, member.district, member.group});
     RowWriter names(project, "TblName");
     for (const BranchGroup& group : groupBranches(geography))
         names.add({tallyAccount, group.name});
