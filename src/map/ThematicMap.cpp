@@ -14,6 +14,7 @@
 #include "ui/cColours_CS.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 #include <utility>
 
@@ -50,6 +51,12 @@ std::pair<std::string, Money> firstArea(const std::string& statement) {
     }
     grsData1->Close();
     return area;
+}
+
+/// "hh:mm:ss", whatever day the time carries.
+std::string timeText(Date time) {
+    const double ofDay = time.days - std::floor(time.days);
+    return ofDay == 0.0 ? "00:00:00" : Value(Date{ofDay}).asText();
 }
 
 } // namespace
@@ -275,7 +282,7 @@ void ThematicMap::showPeriod() {
         const MapPeriods& periods = form_.periods;
         form_.LblStatusValue[0] = Value(periods.MapStartDate.at(frame)).asText();
         form_.LblStatusValue[1] = Value(periods.MapEndDate.at(frame)).asText();
-        form_.LblStatusValue[2] = Value(periods.MapStartTime.at(frame)).asText();
-        form_.LblStatusValue[3] = Value(periods.MapEndTime.at(frame)).asText();
+        form_.LblStatusValue[2] = timeText(periods.MapStartTime.at(frame));
+        form_.LblStatusValue[3] = timeText(periods.MapEndTime.at(frame));
     });
 }

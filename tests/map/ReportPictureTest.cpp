@@ -1,0 +1,56 @@
+#include "map/ReportPicture.h"
+
+#include "map/ThematicMap.h"
+#include "map/surface/MapKey.h"
+#include "map/surface/MapSurface.h"
+#include "tests/map/SmallMap.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class ReportPictureOnFile : public testing::Test {
+protected:
+    ReportPictureOnFile() {
+        tables.TV = "TblTV";
+        maxima.MaxTotalCalls = 900;
+        ThematicMap(surface, key, form, tables, maxima).CreateMap(2, 1, 1);
+    }
+
+    int pixelsOf(const QImage& picture, QColor colour, const QRect& area) const {
+        int count = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x)
+                count += picture.pixelColor(x, y) == colour;
+        }
+        return count;
+    }
+
+    SmallMap map;
+    MapSurface surface;
+    MapKey key{surface};
+    MapFormState form;
+    CurrentTables tables;
+    MapMaxima maxima;
+};
+
+} // namespace
+
+TEST_F(ReportPictureOnFile, ShowsTheWholeMapBesideThePanel) {
+    const QSize size(1400, 1000);
+    const QImage picture =
+        drawReportPicture(surface, key, form, {"TV Regions · Total Calls", "Sample", "", true}, size);
+
+    ASSERT_EQ(picture.size(), size);
+    const int panel = size.width() - reportMapSize(size).width();
+    const QColor west = QColor::fromRgb(0xFF2D1D);
+    EXPECT_GT(pixelsOf(picture, west, QRect(panel, 0, size.width() - panel, size.height())), 10000);
+    EXPECT_GT(pixelsOf(picture, west, QRect(0, 0, panel, size.height())), 100) << "its swatch in the key";
+    EXPECT_EQ(picture.pixelColor(size.width() - 3, 3), surface.style.sea);
+}
+
+TEST_F(ReportPictureOnFile, AnySizeCanBeAskedFor) {
+    const ReportCaption caption{"TV Regions · Total Calls", std::string(500, 'W'), std::string(5000, 'x'), true};
+    for (const QSize& size : {QSize(1, 1), QSize(80, 40), QSize(300, 2000), QSize(2800, 2000)})
+        EXPECT_EQ(drawReportPicture(surface, key, form, caption, size).size(), size.expandedTo(QSize(2, 2)));
+}
