@@ -2,8 +2,8 @@
 
 #include "core/RuntimeError.h"
 #include "map/MapFormState.h"
-#include "map/surface/MapKey.h"
 #include "map/surface/LabelPainter.h"
+#include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
 
 #include <QFontMetricsF>

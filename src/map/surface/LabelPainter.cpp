@@ -11,6 +11,7 @@
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72.0;
+constexpr double MostPoints = 200.0;
 constexpr double HaloReach = 1.4; ///< interface pixels by which the rim stands out
 
 /// The text itself is far cheaper to draw nine times than its outline is to widen once.
@@ -38,7 +39,8 @@ QFont labelFont(const LabelFont& font, double devicePixelRatio) {
              << "DejaVu Sans";
     QFont result;
     result.setFamilies(families);
-    result.setPixelSize(std::max(1, qRound(font.size * PixelsPerPoint * devicePixelRatio)));
+    result.setPixelSize(
+        std::max(1, qRound(std::clamp(font.size, 1.0, MostPoints) * PixelsPerPoint * devicePixelRatio)));
     return result;
 }
 

@@ -2,8 +2,11 @@
 
 #include "data/engine/Database.h"
 #include "data/types/DatabaseError.h"
+#include "map/surface/LayerRows.h"
 #include "map/surface/LayerSource.h"
+#include "map/surface/SceneFile.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace {
@@ -36,10 +39,11 @@ QRectF boundsOf(const LayerContent& content) {
 } // namespace
 
 struct MapSurface::Source {
-    std::string dataSource;             // the text under which the rows were read
-    std::string sql;                    // and the statement
     std::shared_ptr<Database> database; // null: not open
-    std::optional<std::vector<LayerRow>> rows;
+    std::string dataSource;             // under which the rows were read
+    std::string sql;                    // that read them
+    std::vector<LayerRow> rows;
+    std::shared_ptr<const ShapeTable> shapes; // null: nothing has been read
 };
 
 MapSurface::MapSurface() {
@@ -98,11 +102,22 @@ std::shared_ptr<Recordset> MapSurface::LayerRecordset() {
 
 void MapSurface::ZoomToExtent() {
     const LayerContent content = contentOf(layerIndex_);
-    if (!KeepDataSourcesOpen)
-        release(layerIndex_);
+    release(layerIndex_);
     if (content.shapes.empty())
         throw RuntimeError(InvalidProcedureCall, "The layer \"" + layer().LayerName + "\" has no shapes to show");
     camera_.showAll(boundsOf(content));
+}
+
+void MapSurface::SaveMapFile(const std::string& path) const {
+    saveScene(scene_, path);
+}
+
+void MapSurface::LoadMapFile(const std::string& path) {
+    scene_ = loadScene(path);
+    sources_.clear();
+    while (sources_.size() < scene_.layers.size())
+        sources_.push_back(std::make_unique<Source>());
+    setLayerIndex(0);
 }
 
 void MapSurface::DrawMap() {
@@ -120,7 +135,7 @@ void MapSurface::DrawMap() {
                 failure = std::current_exception();
         }
     }
-    for (std::size_t i = 0; i < sources_.size() && !KeepDataSourcesOpen; ++i)
+    for (std::size_t i = 0; i < sources_.size(); ++i)
         release(i);
     picture_ = painter_.paint(scene_, contents, camera_, style);
     if (DrawMapFinished)
@@ -135,12 +150,10 @@ LayerContent MapSurface::contentOf(std::size_t index) {
     if (layer.LayerCoverageName.empty())
         return content;
     try {
-        const std::vector<LayerRow>& rows = rowsOf(index, LayerQuery::of(layer));
-        content.table =
-            geometry_.shapes(databaseOf(index), shapeTableOf(layer.LayerCoverageName, layer.LayerInterpretation),
-                             layer.LayerInterpretation);
-        content.shapes.reserve(rows.size());
-        for (const LayerRow& row : rows) {
+        const Source& source = read(index);
+        content.table = source.shapes;
+        content.shapes.reserve(source.rows.size());
+        for (const LayerRow& row : source.rows) {
             for (std::size_t shape : content.table->find(row.id))
                 content.shapes.push_back({shape, symbolOf(layer, row.value), row.label});
         }
@@ -150,27 +163,25 @@ LayerContent MapSurface::contentOf(std::size_t index) {
     return content;
 }
 
-const std::vector<LayerRow>& MapSurface::rowsOf(std::size_t index, const LayerQuery& query) {
+/// Reads a layer unless what was read before still answers its present properties.
+const MapSurface::Source& MapSurface::read(std::size_t index) {
+    const Layer& layer = scene_.layers[index];
+    const LayerQuery query = LayerQuery::of(layer);
     Source& source = *sources_[index];
-    const std::string& dataSource = scene_.layers[index].LayerDataSource;
-    if (source.dataSource != dataSource)
-        source = Source();
-    if (!source.rows || source.sql != query.sql) {
-        source.rows = readLayerRows(databaseOf(index), query);
-        source.sql = query.sql;
-    }
-    return *source.rows;
-}
-
-Database& MapSurface::databaseOf(std::size_t index) {
-    Source& source = *sources_[index];
-    if (!source.database) {
-        source.dataSource = scene_.layers[index].LayerDataSource;
-        source.database = LayerSource::parse(source.dataSource).open();
-    }
-    return *source.database;
+    if (source.shapes && source.dataSource == layer.LayerDataSource && source.sql == query.sql)
+        return source;
+    if (source.dataSource != layer.LayerDataSource || !source.database)
+        source.database = LayerSource::parse(layer.LayerDataSource).open();
+    source.dataSource = layer.LayerDataSource;
+    source.sql = query.sql;
+    source.shapes.reset(); // stays so where reading fails, and the next draw tries again
+    source.rows = readLayerRows(*source.database, query);
+    source.shapes = geometry_.shapes(*source.database, shapeTableOf(layer.LayerCoverageName, layer.LayerInterpretation),
+                                     layer.LayerInterpretation);
+    return source;
 }
 
 void MapSurface::release(std::size_t index) {
-    sources_[index]->database.reset();
+    if (!KeepDataSourcesOpen)
+        sources_[index]->database.reset();
 }

@@ -1,14 +1,12 @@
 #pragma once
 
 #include "map/surface/GeometryCache.h"
-#include "map/surface/LayerRows.h"
 #include "map/surface/MapPainter.h"
 
 #include <QImage>
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -74,10 +72,15 @@ public:
     std::string ToolBarSetup;
     MapStyle style;
 
+    /// Writes the layers to a file, or replaces them by those of a file; throws RuntimeError as saveScene and loadScene
+    /// do, and then changes nothing. The view stays.
+    void SaveMapFile(const std::string& path) const;
+    void LoadMapFile(const std::string& path);
+
     /// Draws every visible layer. A layer that cannot be read is left out; when the others are drawn and
     /// DrawMapFinished is told, its error is thrown.
     void DrawMap();
-    /// What the last draw left; null before the first.
+    /// What the last draw left, for a repaint; null before the first.
     const QImage& picture() const { return picture_; }
 
     const GeometryCache& geometry() const { return geometry_; }
@@ -86,9 +89,8 @@ private:
     struct Source; // a layer's open file and the rows read from it
 
     LayerContent contentOf(std::size_t index);
-    const std::vector<LayerRow>& rowsOf(std::size_t index, const LayerQuery& query);
-    Database& databaseOf(std::size_t index);
-    void release(std::size_t index);
+    const Source& read(std::size_t index);
+    void release(std::size_t index); ///< closes its file, unless KeepDataSourcesOpen
 
     Scene scene_;
     std::vector<std::unique_ptr<Source>> sources_; // beside scene_.layers
