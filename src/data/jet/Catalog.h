@@ -15,6 +15,18 @@ struct Table {
     std::string name;           ///< its own spelling in that file, unquoted
     std::vector<Field> columns; ///< in order
     std::string link;           ///< the link's name where the statement reached it through one, else empty
+    bool isView = false;        ///< its rows are those of a query and cannot be changed
+};
+
+/// An index of a table, as ALTER TABLE must make it again.
+struct Index {
+    std::string name; ///< in the storage library, unquoted
+    bool unique = false;
+    struct Column {
+        std::string name;
+        bool descending = false;
+    };
+    std::vector<Column> columns;
 };
 
 /// What the binder asks of the database on which a statement runs. Names are compared without case.
@@ -30,6 +42,10 @@ public:
     virtual std::optional<Table> findTableIn(std::string_view path, std::string_view name) = 0;
     /// Schema of the file at `path`, for making a table there.
     virtual std::string schemaOf(std::string_view path) = 0;
+    /// Whether the name is a link of the database, even one whose file has moved.
+    virtual bool isLink(std::string_view name);
+    /// The indexes of a table.
+    virtual std::vector<Index> indexesOf(const Table& table);
 };
 
 } // namespace jet

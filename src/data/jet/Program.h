@@ -15,6 +15,7 @@ struct ResultColumn {
     std::string name;
     std::optional<FieldType> type;
     int size = 0;
+    std::string sourceColumn; ///< of a query over one table: the table's column that it shows unchanged, else empty
 };
 
 /// One thing to do on the storage library, in order.

@@ -116,7 +116,7 @@ void StatementParser::columnType(ColumnDefinition& column, long error) {
     const bool plainDouble = isNumeric(named->type);
     tokens_.take();
     column.field.type = named->type;
-    column.counter = named->counter;
+    column.field.counter = named->counter;
     column.field.size = named->type == FieldType::Text ? widestText : 0;
     if (!tokens_.acceptSymbol("("))
         return;

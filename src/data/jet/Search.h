@@ -8,8 +8,6 @@
 
 namespace jet {
 
-class Expression;
-
 /// A search expression of the dialect ("TVRegion = 'London' AND Calls > 3"), parsed once and evaluated on rows in
 /// memory; used by FindFirst and FindNext. Same meaning as in a WHERE clause.
 class Search {

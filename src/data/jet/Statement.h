@@ -42,7 +42,6 @@ struct Delete {
 /// A column as CREATE TABLE and ALTER TABLE define it.
 struct ColumnDefinition {
     Field field;
-    bool counter = false; ///< numbers its rows by itself
     bool primaryKey = false;
     bool unique = false;
     std::size_t position = 0;

@@ -25,6 +25,8 @@ constexpr std::array<TypeName, 10> typeNames{{
     {FieldType::LongBinary, "LONGBINARY BLOB"},
 }};
 
+/// The library numbers the rows of a column with exactly this type where it is the key.
+constexpr std::string_view counterType = "INTEGER";
 constexpr std::string_view nonEmptyText = "NONEMPTYTEXT";
 constexpr std::string_view nonEmptyMemo = "NONEMPTYMEMO TEXT";
 
@@ -63,6 +65,8 @@ bool isText(FieldType type) {
 }
 
 std::string declaredType(const Field& field) {
+    if (field.counter)
+        return std::string(counterType);
     if (field.type == FieldType::Text) {
         const std::string_view word = field.allowZeroLength ? std::string_view("TEXT") : nonEmptyText;
         return std::string(word) + "(" + std::to_string(field.size > 0 ? field.size : 255) + ")";
@@ -84,6 +88,11 @@ std::optional<Field> fieldOfDeclaredType(std::string_view declared) {
             field.type = name.type;
             return field;
         }
+    }
+    if (upper == counterType) {
+        field.type = FieldType::Long;
+        field.counter = true;
+        return field;
     }
     if (upper == nonEmptyMemo) {
         field.type = FieldType::Memo;
@@ -107,6 +116,8 @@ std::string columnDefinition(const Field& field) {
     std::string sql = quoteIdentifier(field.name) + " " + declaredType(field);
     if (isText(field.type))
         sql += " COLLATE JET";
+    if (field.counter)
+        return sql + " PRIMARY KEY";
     if (field.required)
         sql += " NOT NULL";
     if (isText(field.type) && !field.allowZeroLength)

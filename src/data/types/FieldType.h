@@ -21,6 +21,7 @@ struct Field {
     bool required = false;
     bool allowZeroLength = true;             ///< Text and Memo only
     std::optional<std::string> defaultValue; ///< as an expression of the dialect: "0", "'x'"
+    bool counter = false; ///< a Long that numbers its rows by itself and is their key
 };
 
 /// The type as it is declared in the file, for example "TEXT(50)" or "DATETIME REAL", and back (nothing where it is

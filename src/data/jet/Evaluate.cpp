@@ -1,0 +1,195 @@
+#include "data/jet/Evaluate.h"
+
+#include "data/jet/Like.h"
+#include "data/jet/Operators.h"
+#include "data/jet/ScalarFunctions.h"
+#include "data/types/DatabaseError.h"
+
+namespace jet {
+
+namespace {
+
+using Kind = Expression::Kind;
+using Truth = std::optional<bool>;
+
+Value ofTruth(Truth truth) {
+    return truth ? Value(*truth) : Value();
+}
+
+class Evaluator {
+public:
+    explicit Evaluator(const Cells& cells) : cells_(cells) {}
+
+    Value value(const Expression& e) const {
+        switch (e.kind) {
+        case Kind::Literal:
+            return e.literal;
+        case Kind::Missing:
+            return {};
+        case Kind::Column:
+            return cells_(e.bound.column);
+        case Kind::Negate:
+            return located(e, [&] { return negated(value(*e.operands[0])); });
+        case Kind::Arithmetic:
+            if (e.op == Operator::Xor)
+                return ofTruth(truth(e));
+            return located(e, [&] { return arithmetic(e.op, value(*e.operands[0]), value(*e.operands[1])); });
+        case Kind::Function:
+            return function(e);
+        default:
+            return ofTruth(truth(e));
+        }
+    }
+
+    Truth truth(const Expression& e) const {
+        switch (e.kind) {
+        case Kind::And:
+            return junction(e, false);
+        case Kind::Or:
+            return junction(e, true);
+        case Kind::Not: {
+            const Truth operand = truth(*e.operands[0]);
+            return operand ? Truth(!*operand) : Truth();
+        }
+        case Kind::Comparison:
+            return comparison(e);
+        case Kind::Between:
+            return between(e);
+        case Kind::Like:
+            return like(e);
+        case Kind::InList:
+            return inList(e);
+        case Kind::IsNull:
+            return value(*e.operands[0]).isNull() != e.negated;
+        case Kind::Arithmetic:
+            if (e.op == Operator::Xor) {
+                const Truth a = truth(*e.operands[0]);
+                const Truth b = truth(*e.operands[1]);
+                return a && b ? Truth(*a != *b) : Truth();
+            }
+            break;
+        case Kind::InQuery:
+        case Kind::Exists:
+        case Kind::ScalarQuery:
+        case Kind::Aggregate:
+            throw DatabaseError(3077, "A query or aggregate cannot stand in this expression", e.position);
+        default:
+            break;
+        }
+        return located(e, [&] {
+            const Value result = value(e);
+            return result.isNull() ? Truth() : Truth(result.asBoolean());
+        });
+    }
+
+private:
+    /// Runs `work`; a fault of the values gets the position of the expression.
+    template<typename Work>
+    auto located(const Expression& e, Work work) const -> decltype(work()) {
+        try {
+            return work();
+        } catch (const DatabaseError&) {
+            throw;
+        } catch (const RuntimeError& error) {
+            if (error.number() == 13)
+                throw DatabaseError(3464, "Data type mismatch in criteria expression.", e.position);
+            throw DatabaseError(error.number(), error.description(), e.position);
+        }
+    }
+
+    Truth junction(const Expression& e, bool decides) const {
+        bool unknown = false;
+        for (const ExpressionPtr& operand : e.operands) {
+            const Truth part = truth(*operand);
+            if (part == decides)
+                return decides;
+            unknown = unknown || !part;
+        }
+        return unknown ? Truth() : Truth(!decides);
+    }
+
+    Truth comparison(const Expression& e) const {
+        const Value a = value(*e.operands[0]);
+        const Value b = value(*e.operands[1]);
+        if (a.isNull() || b.isNull())
+            return {};
+        const int order = located(e, [&] { return compareValues(a, b); });
+        switch (e.op) {
+        case Operator::Equal:
+            return order == 0;
+        case Operator::NotEqual:
+            return order != 0;
+        case Operator::Less:
+            return order < 0;
+        case Operator::LessEqual:
+            return order <= 0;
+        case Operator::Greater:
+            return order > 0;
+        default:
+            return order >= 0;
+        }
+    }
+
+    Truth between(const Expression& e) const {
+        const Value tested = value(*e.operands[0]);
+        const Value first = value(*e.operands[1]);
+        const Value second = value(*e.operands[2]);
+        if (tested.isNull() || first.isNull() || second.isNull())
+            return {};
+        return located(e, [&] {
+            const bool turned = compareValues(first, second) > 0;
+            const bool inside = compareValues(tested, turned ? second : first) >= 0 &&
+                                compareValues(tested, turned ? first : second) <= 0;
+            return Truth(inside != e.negated);
+        });
+    }
+
+    Truth like(const Expression& e) const {
+        const Value text = value(*e.operands[0]);
+        const Value pattern = value(*e.operands[1]);
+        if (text.isNull() || pattern.isNull())
+            return {};
+        return isLike(text.asText(), pattern.asText()) != e.negated;
+    }
+
+    Truth inList(const Expression& e) const {
+        const Value tested = value(*e.operands[0]);
+        if (tested.isNull())
+            return {};
+        bool unknown = false;
+        for (std::size_t i = 1; i < e.operands.size(); ++i) {
+            const Value member = value(*e.operands[i]);
+            if (member.isNull())
+                unknown = true;
+            else if (located(*e.operands[i], [&] { return compareValues(tested, member); }) == 0)
+                return !e.negated;
+        }
+        return unknown ? Truth() : Truth(e.negated);
+    }
+
+    /// IIf looks at the branch it takes only, so that the other may divide by zero or convert what is no date.
+    Value function(const Expression& e) const {
+        if (e.bound.function->name == "IIF") {
+            const std::size_t branch = truth(*e.operands[0]).value_or(false) ? 1 : 2;
+            return branch < e.operands.size() ? value(*e.operands[branch]) : Value();
+        }
+        std::vector<Value> arguments;
+        for (const ExpressionPtr& operand : e.operands)
+            arguments.push_back(value(*operand));
+        return located(e, [&] { return e.bound.function->apply(arguments); });
+    }
+
+    const Cells& cells_;
+};
+
+} // namespace
+
+Value evaluate(const Expression& expression, const Cells& cells) {
+    return Evaluator(cells).value(expression);
+}
+
+std::optional<bool> evaluateCondition(const Expression& expression, const Cells& cells) {
+    return Evaluator(cells).truth(expression);
+}
+
+} // namespace jet

@@ -1,0 +1,147 @@
+#include "data/jet/Like.h"
+
+#include "data/jet/Characters.h"
+#include "data/types/Value.h"
+
+#include <algorithm>
+
+namespace jet {
+
+namespace {
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+char32_t upperAscii(char32_t c) {
+    return c >= 'a' && c <= 'z' ? c - 0x20 : c;
+}
+
+} // namespace
+
+bool hasWildcards(std::string_view pattern) {
+    return pattern.find_first_of("*?#[") != std::string_view::npos;
+}
+
+LikePattern::LikePattern(std::string_view pattern) : isPlain_(!hasWildcards(pattern)) {
+    if (isPlain_) {
+        plain_ = pattern;
+        return;
+    }
+    const std::string upper = upperText(pattern);
+    std::string_view rest = upper;
+    while (!rest.empty()) {
+        const char32_t c = takeCharacter(rest);
+        if (c == '*') {
+            if (elements_.empty() || elements_.back().kind != Element::Kind::AnyRun)
+                elements_.push_back({Element::Kind::AnyRun, 0, false, {}});
+        } else if (c == '?') {
+            elements_.push_back({Element::Kind::AnyOne, 0, false, {}});
+        } else if (c == '#') {
+            elements_.push_back({Element::Kind::AnyDigit, 0, false, {}});
+        } else if (c == '[' && rest.find(']') != std::string_view::npos) {
+            readSet(rest);
+        } else {
+            elements_.push_back({Element::Kind::Character, c, false, {}});
+        }
+    }
+}
+
+/// Reads up to the closing bracket; the opening one is taken already. An empty set stands for nothing at all.
+void LikePattern::readSet(std::string_view& rest) {
+    Element set{Element::Kind::Set, 0, false, {}};
+    std::string_view inside = rest.substr(0, rest.find(']'));
+    rest.remove_prefix(inside.size() + 1);
+    if (inside.empty())
+        return;
+    if (inside.front() == '!' && inside.size() > 1) {
+        set.negated = true;
+        inside.remove_prefix(1);
+    }
+    while (!inside.empty()) {
+        Range range{takeCharacter(inside), 0};
+        range.last = range.first;
+        if (inside.size() > 1 && inside.front() == '-') {
+            inside.remove_prefix(1);
+            range.last = takeCharacter(inside);
+        }
+        set.ranges.push_back(range);
+    }
+    elements_.push_back(std::move(set));
+}
+
+bool LikePattern::accepts(const Element& element, char32_t c) const {
+    switch (element.kind) {
+    case Element::Kind::Character:
+        return element.character == c;
+    case Element::Kind::AnyOne:
+        return true;
+    case Element::Kind::AnyDigit:
+        return c >= '0' && c <= '9';
+    default:
+        return std::any_of(element.ranges.begin(), element.ranges.end(),
+                           [c](const Range& range) { return c >= range.first && c <= range.last; }) != element.negated;
+    }
+}
+
+bool LikePattern::matches(std::string_view text) const {
+    if (isPlain_)
+        return equalText(text, plain_);
+    std::string upper;
+    const bool ascii = isAscii(text);
+    if (!ascii) {
+        upper = upperText(text);
+        text = upper;
+    }
+    // On a mismatch the last run takes one character more; earlier runs need not be tried again.
+    std::size_t element = 0;
+    std::size_t runElement = elements_.size();
+    std::string_view runRest;
+    while (true) {
+        if (element < elements_.size() && elements_[element].kind == Element::Kind::AnyRun) {
+            runElement = element++;
+            runRest = text;
+            if (element == elements_.size())
+                return true;
+            continue;
+        }
+        if (text.empty()) {
+            if (element == elements_.size())
+                return true;
+        } else if (element < elements_.size()) {
+            std::string_view after = text;
+            const char32_t c = upperAscii(takeCharacter(after));
+            if (accepts(elements_[element], c)) {
+                text = after;
+                ++element;
+                continue;
+            }
+        }
+        if (runElement == elements_.size() || runRest.empty())
+            return false;
+        takeCharacter(runRest);
+        text = runRest;
+        element = runElement + 1;
+    }
+}
+
+bool isLike(std::string_view text, std::string_view pattern) {
+    return hasWildcards(pattern) ? LikePattern(pattern).matches(text) : equalText(text, pattern);
+}
+
+bool begins(std::string_view text, std::string_view prefix) {
+    if (hasWildcards(prefix))
+        return LikePattern(std::string(prefix) + '*').matches(text);
+    const std::size_t shared = std::min(text.size(), prefix.size());
+    for (std::size_t i = 0; i < shared; ++i) {
+        const auto a = static_cast<unsigned char>(text[i]);
+        const auto b = static_cast<unsigned char>(prefix[i]);
+        if ((a | b) >= 0x80)
+            return upperText(text.substr(i)).starts_with(upperText(prefix.substr(i)));
+        if (upperAscii(a) != upperAscii(b))
+            return false;
+    }
+    return prefix.size() <= text.size();
+}
+
+} // namespace jet

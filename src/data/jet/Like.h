@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace jet {
+
+/// Whether a pattern of Like holds any of `* ? # [`; without them it is a plain comparison.
+bool hasWildcards(std::string_view pattern);
+
+/// A pattern of Like, read once: `*` any run, `?` one character, `#` one digit, `[a-z]` one of a set, `[!a-z]` none of
+/// it. Case does not count. A `[` without its `]` stands for itself.
+class LikePattern {
+public:
+    explicit LikePattern(std::string_view pattern);
+    bool matches(std::string_view text) const;
+
+private:
+    struct Range {
+        char32_t first, last;
+    };
+    struct Element {
+        enum class Kind { Character, AnyRun, AnyOne, AnyDigit, Set } kind;
+        char32_t character = 0;
+        bool negated = false;
+        std::vector<Range> ranges;
+    };
+    bool accepts(const Element& element, char32_t c) const;
+    void readSet(std::string_view& rest);
+
+    std::vector<Element> elements_;
+    std::string plain_; ///< of a pattern without wildcards
+    bool isPlain_ = false;
+};
+
+/// `text Like pattern`.
+bool isLike(std::string_view text, std::string_view pattern);
+/// `text Like prefix & '*'`, where the prefix mostly holds no wildcards.
+bool begins(std::string_view text, std::string_view prefix);
+
+} // namespace jet

@@ -1,0 +1,100 @@
+#include "tests/data/jet/SqlCases.h"
+#include "data/types/DatabaseError.h"
+#include "tests/data/jet/JetFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+const std::string folder = CALLSCOPE_SQL_CASES;
+
+std::string shown(const Value& value) {
+    if (value.isNull())
+        return "null";
+    const std::string text = value.asText();
+    const bool quoted = value.isText() && (text.empty() || text.front() == ' ' || text.back() == ' ');
+    return quoted ? '"' + text + '"' : text;
+}
+
+std::vector<std::string> shownRows(const JetFixture::Result& result) {
+    std::vector<std::string> lines;
+    for (const auto& row : result.rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i)
+            line += (i == 0 ? "" : " | ") + shown(row[i]);
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::string shownColumns(const JetFixture::Result& result) {
+    static const std::vector<std::string> names{"Boolean", "Byte", "Integer", "Long", "Currency",  "Single",
+                                                "Double",  "Date", "Text",    "Memo", "LongBinary"};
+    std::string text;
+    for (const jet::ResultColumn& column : result.columns) {
+        text += (text.empty() ? "" : ", ") + column.name + " ";
+        text += column.type ? names[static_cast<std::size_t>(*column.type)] : "?";
+        if (column.size > 0)
+            text += "(" + std::to_string(column.size) + ")";
+    }
+    return text;
+}
+
+void checkResult(const SqlStep& step, const JetFixture::Result& result) {
+    if (!step.columns.empty()) {
+        EXPECT_EQ(shownColumns(result), step.columns);
+    }
+    if (!step.emits.empty()) {
+        EXPECT_EQ(result.program.isQuery ? result.program.query : result.program.steps.back().sql, step.emits);
+    }
+    if (step.expectation == "rows" || step.expectation == "any order") {
+        std::vector<std::string> rows = shownRows(result);
+        std::vector<std::string> expected = step.rows;
+        if (step.expectation == "any order") {
+            std::sort(rows.begin(), rows.end());
+            std::sort(expected.begin(), expected.end());
+        }
+        EXPECT_EQ(rows, expected) << result.program.query;
+    } else if (step.expectation.starts_with("count ")) {
+        EXPECT_EQ("count " + std::to_string(result.affected), step.expectation) << result.program.steps.back().sql;
+    } else {
+        EXPECT_EQ(step.expectation, "done") << "the statement ran";
+    }
+}
+
+void checkError(const SqlStep& step, const DatabaseError& error) {
+    std::string got = "error " + std::to_string(error.number());
+    if (step.expectation.find(" at ") != std::string::npos)
+        got += error.position() ? " at " + std::to_string(*error.position()) : " at nowhere";
+    EXPECT_EQ(got, step.expectation) << error.description();
+}
+
+class SqlCases : public testing::TestWithParam<SqlCase> {};
+
+TEST_P(SqlCases, holds) {
+    JetFixture database;
+    database.runFile(folder + "/fixture.sql");
+    database.addLink("Areas_Link", "Areas");
+    database.addLink("Lost_Link", "");
+    for (const SqlStep& step : GetParam().steps) {
+        SCOPED_TRACE(step.statement);
+        try {
+            checkResult(step, database.run(step.statement));
+        } catch (const DatabaseError& error) {
+            checkError(step, error);
+        }
+    }
+}
+
+std::string testName(const testing::TestParamInfo<SqlCase>& info) {
+    std::string name = info.param.file + "_" + std::to_string(info.index) + "_" + info.param.name;
+    std::replace_if(
+        name.begin(), name.end(), [](unsigned char c) { return c >= 0x80 || !std::isalnum(c); }, '_');
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Text, SqlCases, testing::ValuesIn(readSqlCases(folder)), testName);
+
+} // namespace
