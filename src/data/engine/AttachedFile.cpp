@@ -102,14 +102,14 @@ void AttachedFile::readSchema() {
         return;
     std::map<std::string, jet::Table> tables;
     std::map<std::string, Link> links;
-    sqlite::Statement names(*connection_, "SELECT name FROM " + schema_ +
+    sqlite::Statement names(*connection_, "SELECT name, type = 'view' FROM " + schema_ +
                                               ".sqlite_schema WHERE type IN ('table', 'view') ORDER BY rowid");
     bool hasLinks = false;
     while (names.step()) {
         const std::string name(names.text(0));
         hasLinks = hasLinks || name == linkTable;
         if (!isSystemTable(name))
-            tables.emplace(foldText(name), readTable(name));
+            tables.emplace(foldText(name), readTable(name, names.integer(1) != 0));
     }
     if (hasLinks) {
         sqlite::Statement rows(*connection_,
@@ -126,10 +126,11 @@ void AttachedFile::readSchema() {
     ++generation_;
 }
 
-jet::Table AttachedFile::readTable(const std::string& name) const {
+jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
     jet::Table table;
     table.schema = schema_;
     table.name = name;
+    table.isView = isView;
     sqlite::Statement columns(*connection_, "PRAGMA " + schema_ + ".table_xinfo(" + quoteIdentifier(name) + ")");
     while (columns.step()) {
         // A column of a type that is none of ours (a file made by other means, an expression of a view) counts as a

@@ -55,7 +55,7 @@ public:
 private:
     void attach(Create create);
     void readSchema();
-    jet::Table readTable(const std::string& name) const;
+    jet::Table readTable(const std::string& name, bool isView) const;
 
     std::shared_ptr<sqlite::Connection> connection_;
     std::string path_;

@@ -102,6 +102,31 @@ std::string Database::Impl::schemaOf(std::string_view otherPath) {
     return otherFile(otherPath).schema();
 }
 
+bool Database::Impl::isLink(std::string_view name) {
+    return file().links().contains(foldText(name));
+}
+
+std::vector<jet::Index> Database::Impl::indexesOf(const jet::Table& table) {
+    sqlite::Connection& connection = file().connection();
+    std::vector<jet::Index> indexes;
+    // Only indexes made by a statement of their own; those of a key belong to the table's definition.
+    sqlite::Statement list(connection,
+                           "SELECT name, \"unique\" FROM pragma_index_list(?, ?) WHERE origin = 'c' ORDER BY name");
+    list.bind(1, table.name);
+    list.bind(2, table.schema);
+    while (list.step()) {
+        jet::Index index{std::string(list.text(0)), list.integer(1) != 0, {}};
+        sqlite::Statement columns(connection,
+                                  "SELECT name, \"desc\" FROM pragma_index_xinfo(?, ?) WHERE key ORDER BY seqno");
+        columns.bind(1, index.name);
+        columns.bind(2, table.schema);
+        while (columns.step())
+            index.columns.push_back({std::string(columns.text(0)), columns.integer(1) != 0});
+        indexes.push_back(std::move(index));
+    }
+    return indexes;
+}
+
 std::vector<TableDef> Database::Impl::readDefinitions() {
     std::vector<TableDef> definitions;
     for (const auto& [key, table] : file().tables()) {
@@ -160,12 +185,7 @@ void Database::Impl::remove(const TableDef& definition) {
     const auto table = findTable(definition.name);
     if (!table)
         throw DatabaseError(3265, "There is no table '" + definition.name + "'");
-    sqlite::Statement kind(file().connection(),
-                           "SELECT type FROM " + file().schema() + ".sqlite_schema WHERE name = ?");
-    kind.bind(1, table->name);
-    const bool isView = kind.step() && kind.text(0) == "view";
-    kind.reset();
-    file().connection().execute((isView ? "DROP VIEW " : "DROP TABLE ") + file().schema() + "." +
+    file().connection().execute((table->isView ? "DROP VIEW " : "DROP TABLE ") + file().schema() + "." +
                                 quoteIdentifier(table->name));
     file().invalidate();
 }

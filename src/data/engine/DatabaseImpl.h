@@ -14,6 +14,8 @@ public:
     std::optional<jet::Table> findTable(std::string_view name) override;
     std::optional<jet::Table> findTableIn(std::string_view path, std::string_view name) override;
     std::string schemaOf(std::string_view path) override;
+    bool isLink(std::string_view name) override;
+    std::vector<jet::Index> indexesOf(const jet::Table& table) override;
 
     // TableDefs::Source
     std::vector<TableDef> readDefinitions() override;

@@ -69,12 +69,12 @@ const Value& Recordset::Impl::cell(long row, int column) const {
 }
 
 const Field& Recordset::Impl::tableField(int column) const {
-    const std::string& name = program.columns[static_cast<std::size_t>(column)].name;
+    const jet::ResultColumn& shown = program.columns[static_cast<std::size_t>(column)];
     for (const Field& field : program.updatable->columns) {
-        if (equalText(field.name, name))
+        if (!shown.sourceColumn.empty() && equalText(field.name, shown.sourceColumn))
             return field;
     }
-    throw DatabaseError(3164, "The field '" + name + "' cannot be changed");
+    throw DatabaseError(3164, "The field '" + shown.name + "' cannot be changed");
 }
 
 void Recordset::Impl::search(std::string_view expression, long from) {
