@@ -3,6 +3,7 @@
 #include "core/RuntimeError.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
+#include "data/types/DatabaseError.h"
 
 #include <array>
 
@@ -12,6 +13,16 @@ constexpr std::array<Measure, 11> allMeasures{
     Measure::TotalCalls,  Measure::Answered,        Measure::Ineffective, Measure::Cost,
     Measure::Revenue,     Measure::Engaged,         Measure::RTNR,        Measure::Other,
     Measure::LostCallers, Measure::AnsweredCallers, Measure::AverageCalls};
+
+/// A search that cannot be read names its expression, in which the area stands.
+template<typename Find>
+void search(const std::string& expression, Find find) {
+    try {
+        find();
+    } catch (const DatabaseError& error) {
+        throw DatabaseError(error.number(), error.description() + " in: " + expression, error.position());
+    }
+}
 
 } // namespace
 
@@ -44,7 +55,7 @@ void TargetTable::close() {
 }
 
 bool TargetTable::findFirst(const std::string& expression) {
-    rows().FindFirst(expression);
+    search(expression, [&] { rows().FindFirst(expression); });
     hit_ = hit_ || !rows().NoMatch();
     return !rows().NoMatch();
 }
@@ -52,7 +63,7 @@ bool TargetTable::findFirst(const std::string& expression) {
 bool TargetTable::findForward(const std::string& expression) {
     if (!hit_)
         return findFirst(expression);
-    rows().FindNext(expression);
+    search(expression, [&] { rows().FindNext(expression); });
     return !rows().NoMatch();
 }
 

@@ -34,7 +34,8 @@ TEST(SelectedTVArea, CountsTheWholeProjectIntoTheMainTable) {
     // Nothing but the searches for the name with an apostrophe went wrong: calls, cost, answered callers.
     EXPECT_EQ(project.logLines().size(), 3U);
     EXPECT_EQ(project.logLinesWith("\"ModData_SelectedTVArea\""), 3);
-    EXPECT_EQ(project.logLinesWith("Mary's Isle"), 3);
+    EXPECT_EQ(project.logLinesWith("in: TVRegion = 'Mary's Isle'"), 2);
+    EXPECT_EQ(project.logLinesWith("in: UCASE(TVRegion) = 'MARY'S ISLE'"), 1);
 
     // The first run has brought the project's name to one without the apostrophe, which can be counted.
     Rows second = wholeProject;

@@ -13,8 +13,10 @@ namespace {
 std::shared_ptr<Database> makeFile(const std::string& path, DatabaseKind kind, std::string_view connect,
                                    std::initializer_list<const char*> tables) {
     auto database = defaultWorkspace()->createDatabase(path, connect);
+    WorkspaceTransaction making(*defaultWorkspace());
     for (const char* table : tables)
         createVocabularyTable(*database, kind, table);
+    making.commit();
     return database;
 }
 
@@ -43,7 +45,7 @@ SmallInstallation::SmallInstallation() {
     gsProjectPath = file("project.mdb");
     gsAccount = "ACC";
 
-    makeFile(file("CustomerGroups.mdb"), DatabaseKind::CustomerGroups, ProjectConnect,
+    makeFile(file("CustomerGroups.mdb"), DatabaseKind::CustomerGroups, {},
              {"TblGroups", "TblName", "tblMappingGroupSetup", "TblAnswerPoints", "tblCommunityGroups"})
         ->close();
     defaultWorkspace()->createDatabase(file("comgroups.mdb"), ProjectConnect)->close();
@@ -64,6 +66,7 @@ SmallInstallation::~SmallInstallation() {
 }
 
 void SmallInstallation::addCalls(const std::vector<SmallCall>& calls) {
+    WorkspaceTransaction rows(*defaultWorkspace());
     for (const SmallCall& call : calls) {
         char money[32];
         std::snprintf(money, sizeof money, "%.4f", call.discounted);
@@ -74,12 +77,15 @@ void SmallInstallation::addCalls(const std::vector<SmallCall>& calls) {
                             ", " + literal(call.answerInd) + ", " + money + ", " + literal(call.answerPoint) + ", " +
                             literal(call.destination) + ")");
     }
+    rows.commit();
 }
 
 void SmallInstallation::addPlaces(const std::vector<SmallPlace>& places, const std::string& table) {
+    WorkspaceTransaction rows(*defaultWorkspace());
     for (const SmallPlace& place : places)
         gdbProject->execute("INSERT INTO " + table + " ([1141], TVArea, Exchange) VALUES (" + literal(place.code) +
                             ", " + literal(place.tvArea) + ", " + literal(place.exchange) + ")");
+    rows.commit();
 }
 
 std::vector<std::string> SmallInstallation::logLines() const {
