@@ -180,7 +180,7 @@ TEST_F(ThematicMapOnFile, AnUnknownBoundaryDrawsNothing) {
     for (long boundary : {4, 6, -1}) {
         EXPECT_TRUE(thematic.CreateMap(boundary, TotalCalls, 1));
         EXPECT_EQ(surface.scene().layers[0].LayerCoverageName, "");
-        EXPECT_EQ(colourAt(surface, 20, 20), surface.style.sea);
+        EXPECT_EQ(surface.picture().pixelColor(150, 50), surface.style.sea);
     }
 }
 

@@ -58,6 +58,7 @@ TEST_F(MapSurfaceOnFile, ColoursEachAreaByItsFigure) {
 
 TEST_F(MapSurfaceOnFile, NamesJoinOnTheirFirstFiftyCharacters) {
     const std::string longName(50, 'x');
+    map.database().execute("ALTER TABLE PGN_TV ALTER COLUMN NAME Text(100)");
     addPolygon(map.database(), "PGN_TV", 14, longName + " and more", {{squareRing(300, 0, 100)}});
     addFigure(map.database(), "TblTV", "TVRegion", longName, "TotalCalls1", 500);
     surface.CentreMapOn(300, 50);
