@@ -16,11 +16,11 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 FrmMain::FrmMain(QWidget* parent)
@@ -34,7 +34,7 @@ FrmMain::FrmMain(QWidget* parent)
     Label3->setObjectName(QStringLiteral("Label3"));
     CmdClose()->setObjectName(QStringLiteral("CmdClose"));
     arrange();
-    setUpKeys();
+    connectControls();
     Form_Load();
 }
 
@@ -79,9 +79,8 @@ void FrmMain::arrange() {
     resize(1160, 720);
 }
 
-void FrmMain::setUpKeys() {
+void FrmMain::connectControls() {
     connect(CmdClose(), &QPushButton::clicked, this, &QWidget::close);
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
     connect(historyPanel_, &HistoryPanel::rowChosen, this, &FrmMain::historyRowChosen);
 }
 
@@ -113,4 +112,11 @@ void FrmMain::closeEvent(QCloseEvent* event) {
     releaseSystemDatabase();
     event->accept();
     QCoreApplication::exit(0);
+}
+
+void FrmMain::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }

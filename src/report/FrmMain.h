@@ -32,11 +32,12 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void Form_Load();
     void arrange();
-    void setUpKeys();
+    void connectControls();
 
     uctHeader* uctHeader1;
     QLabel* Label3; ///< the header's detail

@@ -2,9 +2,9 @@
 
 #include "core/CallHistory.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -20,13 +20,19 @@ HistoryPanel::HistoryPanel(QWidget* parent) : ucWebbyBorder(parent), LstHistory(
 
     connect(LstHistory, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { emit rowChosen(LstHistory->row(item)); });
-    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* choose = new QShortcut(QKeySequence(key), LstHistory, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(choose, &QShortcut::activated, this, [this] {
-            if (LstHistory->currentRow() >= 0)
-                emit rowChosen(LstHistory->currentRow());
-        });
+    LstHistory->installEventFilter(this);
+}
+
+/// Return and Enter choose a row, on every platform once.
+bool HistoryPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == LstHistory && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && LstHistory->currentRow() >= 0) {
+            emit rowChosen(LstHistory->currentRow());
+            return true;
+        }
     }
+    return ucWebbyBorder::eventFilter(watched, event);
 }
 
 void HistoryPanel::addHeading() {

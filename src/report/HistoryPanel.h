@@ -22,6 +22,9 @@ signals:
     /// A row was clicked, or Return pressed on it; 0 is "More files ..".
     void rowChosen(int row);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void addHeading();
 

@@ -17,7 +17,12 @@ using Texts = std::vector<std::string>;
 /// A small installation: program, application data with ukmap.mdb, delivered files, and a project.
 class Start : public testing::Test {
 protected:
-    void SetUp() override {
+    void SetUp() override { makeInstallation(); }
+    void TearDown() override { letGo(); }
+
+    void makeInstallation() {
+        for (const auto& entry : std::filesystem::directory_iterator(folder_.path()))
+            std::filesystem::remove_all(entry);
         folder_.makeFolder("program");
         folder_.makeFolder("system");
         const std::string data = folder_.makeFolder("data");
@@ -26,7 +31,7 @@ protected:
         makeDatabase(data + "/ukmap.mdb", SystemMapConnect);
         makeDatabase(project(), {});
     }
-    void TearDown() override {
+    static void letGo() {
         resetGlobals();
         resetDefaultWorkspace();
     }
@@ -111,8 +116,8 @@ TEST_F(Start, EndsWithAMessageWhereItCannotGoOn) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        TearDown();
-        SetUp();
+        letGo();
+        makeInstallation();
         actions_ = ScriptedStart();
         prompts_.texts.clear();
         prompts_.styles.clear();
@@ -122,9 +127,6 @@ TEST_F(Start, EndsWithAMessageWhereItCannotGoOn) {
         EXPECT_EQ(prompts_.styles, std::vector{c.style});
         EXPECT_EQ(actions_.called("command line"), c.reachesCommandLine);
         EXPECT_FALSE(actions_.called("open project"));
-        std::filesystem::remove(map);
-        std::filesystem::remove(project());
-        std::filesystem::remove(folder_.file("data/CS Mapping Error.log"));
     }
 }
 
@@ -166,8 +168,7 @@ TEST_F(Start, DecidesWhatOpensByTheHistory) {
         const auto window = std::find(actions_.calls.begin(), actions_.calls.end(), "main window");
         EXPECT_EQ(Texts(window + 1, actions_.calls.end()), c.callsAfterWindow);
         EXPECT_EQ(prompts_.texts, Texts{});
-        resetGlobals();
-        resetDefaultWorkspace();
+        letGo();
     }
     EXPECT_NE(log().find(",62,"), std::string::npos) << "reading past the end is logged";
 }
@@ -202,8 +203,7 @@ TEST_F(Start, LogsOtherErrorsAndGoesOn) {
         EXPECT_EQ(prompts_.texts, Texts{});
         const bool logIsThere = std::string(step) != "instance"; // before that its folder is not known
         EXPECT_EQ(log().find("\"no " + std::string(step) + "\"") != std::string::npos, logIsThere);
-        resetGlobals();
-        resetDefaultWorkspace();
+        letGo();
     }
 }
 

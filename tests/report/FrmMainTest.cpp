@@ -70,7 +70,6 @@ TEST_F(MainWindow, NamesTheOpenProject) {
 TEST_F(MainWindow, OffersProjectsToMouseAndKeyboard) {
     FrmMain window;
     window.show();
-    window.activateWindow();
     const QSignalSpy chosen(&window, &FrmMain::historyRowChosen);
     QListWidget* list = window.LstHistory();
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(2)).center());
@@ -107,8 +106,8 @@ TEST_F(MainWindow, EndsTheProgramAndLetsGoOfItsFiles) {
         const auto held = gdbSystem;
         FrmMain window;
         window.show();
-        window.activateWindow();
         QTimer::singleShot(0, &window, [&] { way.close(window); });
+        QTimer::singleShot(5000, &window, [] { QApplication::exit(99); }); // where it does not close
         EXPECT_EQ(QApplication::exec(), 0);
         EXPECT_FALSE(window.isVisible());
         EXPECT_FALSE(gdbSystem || grsData1 || grsData2 || grsData3);
