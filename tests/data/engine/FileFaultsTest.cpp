@@ -18,6 +18,8 @@ using Access = Workspace::Access;
 const std::string password = "MS Access;PWD=secret";
 
 std::string contents(const std::string& path) {
+    if (!std::filesystem::is_regular_file(path))
+        return {};
     std::ifstream stream(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
 }
@@ -42,10 +44,13 @@ class FileFaults : public testing::Test {
 protected:
     void SetUp() override {
         for (const auto& [path, connect] : {std::pair{plain, std::string()}, std::pair{encrypted, password}}) {
-            auto database = Workspace::create()->createDatabase(path, connect);
+            const auto workspace = Workspace::create();
+            const auto database = workspace->createDatabase(path, connect);
+            WorkspaceTransaction transaction(*workspace);
             database->execute("CREATE TABLE Areas (Name Text(50), Calls Long)");
             for (int i = 0; i < 2000; ++i)
                 database->execute("INSERT INTO Areas VALUES ('An area with a long name', " + std::to_string(i) + ")");
+            transaction.commit();
         }
     }
 
