@@ -24,6 +24,7 @@ constexpr double Gap = 8.0;
 constexpr double SmallestRatio = 0.35;
 
 constexpr double TitlePoints = 17.0;
+constexpr double SmallestTitlePoints = 13.0;
 constexpr double BodyPoints = 10.5;
 constexpr double CaptionPoints = 9.5;
 
@@ -52,6 +53,19 @@ public:
 
     double ratio() const { return ratio_; }
     void skip(double pixels) { y_ += pixels * ratio_; }
+
+    /// On one line where a smaller size than TitlePoints makes that possible.
+    void title(const std::string& words) {
+        const auto fits = [&](double points) {
+            QFont font = labelFont({family_, points}, ratio_);
+            font.setBold(true);
+            return QFontMetricsF(font).horizontalAdvance(QString::fromStdString(words)) <= width_;
+        };
+        double points = TitlePoints;
+        while (points > SmallestTitlePoints && !fits(points))
+            points -= 0.5;
+        text(words, fits(points) ? points : TitlePoints, true, TextColour);
+    }
 
     /// Wraps at the panel's width; what does not fit above the picture's lower edge is left out.
     void text(const std::string& words, double points, bool bold, const QColor& colour) {
@@ -116,7 +130,7 @@ std::string span(const std::string& from, const std::string& to) {
 
 void writePanel(PanelWriter& panel, const MapKey& key, const MapFormState& form, const ReportCaption& caption) {
     const auto& values = form.LblStatusValue;
-    panel.text(caption.title, TitlePoints, true, TextColour);
+    panel.title(caption.title);
     panel.skip(Gap / 2.0);
     panel.text(caption.subtitle, BodyPoints, false, CaptionColour);
     panel.text(span(values[0], values[1]), BodyPoints, false, CaptionColour);

@@ -1,6 +1,7 @@
 #include "tests/map/SmallMap.h"
 
 #include "core/ModDeclarations.h"
+#include "data/engine/Workspace.h"
 #include "map/surface/MapSurface.h"
 
 ShapeRing squareRing(double x, double y, double side) {
@@ -48,6 +49,7 @@ void addFigure(Database& database, const std::string& table, const std::string& 
 }
 
 SmallMap::SmallMap() {
+    WorkspaceTransaction transaction(*defaultWorkspace()); // one write to the disk in place of nine
     addPolygon(database(), "PGN_TV", 11, "West", {{squareRing(0, 0, 100)}});
     addPolygon(database(), "PGN_TV", 12, "Middle",
                {{squareRing(100, 0, 100), {{140, 40}, {140, 60}, {160, 60}, {160, 40}, {140, 40}}}});
@@ -57,6 +59,7 @@ SmallMap::SmallMap() {
     addLabelPoint(database(), "PNT_TVNAMES", 3, "East", 250, 80);
     addFigure(database(), "TblTV", "TVRegion", "West", "TotalCalls1", 900);
     addFigure(database(), "TblTV", "TVRegion", "Middle", "TotalCalls1", 3);
+    transaction.commit();
 }
 
 Database& SmallMap::database() const {
