@@ -3,7 +3,7 @@
 #include "data/jet/StaticTypes.h"
 #include "data/types/DatabaseError.h"
 
-#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace jet {
@@ -29,6 +29,13 @@ bool isNumberOrDate(const StaticType& type) {
     return type.type && (isNumeric(*type.type) || *type.type == FieldType::Date);
 }
 
+/// A number as a Single keeps it.
+double narrowed(double number) {
+    if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+        throw RuntimeError(6, "Overflow");
+    return static_cast<double>(static_cast<float>(number));
+}
+
 /// The literal as a value of the column's type. Throws RuntimeError where it is none.
 Value convertedLiteral(const Value& literal, const Field& field) {
     switch (field.type) {
@@ -50,6 +57,7 @@ Value convertedLiteral(const Value& literal, const Field& field) {
     case FieldType::Currency:
         return literal.asMoney();
     case FieldType::Single:
+        return narrowed(literal.asDouble());
     case FieldType::Double:
         return literal.asDouble();
     case FieldType::Date:
@@ -105,6 +113,9 @@ std::string convertedText(const std::string& value, const StaticType& type, cons
     case FieldType::Currency:
         return isWhole(type) || type.type == FieldType::Currency ? value : call("jet_to_currency", value);
     case FieldType::Single:
+        return type.type == FieldType::Single || (isWhole(type) && type.type != FieldType::Long)
+                   ? value
+                   : call("jet_to_single", value);
     case FieldType::Double:
         return isNumberOrDate(type) ? value : call("jet_to_double", value);
     case FieldType::Date:

@@ -157,7 +157,12 @@ void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
             giveResult(context, value.asDouble());
         else if constexpr (type == FieldType::Date)
             giveResult(context, value.asDate());
-        else {
+        else if constexpr (type == FieldType::Single) {
+            const double number = value.asDouble();
+            if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+                throw RuntimeError(6, "Overflow");
+            giveResult(context, static_cast<double>(static_cast<float>(number)));
+        } else {
             using Limits =
                 std::numeric_limits<std::conditional_t<type == FieldType::Integer, std::int16_t, std::int32_t>>;
             constexpr std::int64_t least = type == FieldType::Byte ? 0 : Limits::min();
@@ -195,6 +200,7 @@ constexpr std::array ownFunctions{
     OwnFunction{"jet_to_integer", 1, convert<FieldType::Integer>},
     OwnFunction{"jet_to_long", 1, convert<FieldType::Long>},
     OwnFunction{"jet_to_currency", 1, convert<FieldType::Currency>},
+    OwnFunction{"jet_to_single", 1, convert<FieldType::Single>},
     OwnFunction{"jet_to_double", 1, convert<FieldType::Double>},
     OwnFunction{"jet_to_date", 1, convert<FieldType::Date>},
 };

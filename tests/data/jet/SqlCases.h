@@ -1,5 +1,6 @@
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,11 @@ struct SqlCase {
     std::string name;
     std::vector<SqlStep> steps;
 };
+
+/// How a test program names a case in its messages.
+inline void PrintTo(const SqlCase& sqlCase, std::ostream* out) {
+    *out << sqlCase.file << ": " << sqlCase.name;
+}
 
 /// Every case of every file of the folder. Throws std::runtime_error for a file that cannot be read as cases.
 std::vector<SqlCase> readSqlCases(const std::string& folder);

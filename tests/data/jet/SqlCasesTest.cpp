@@ -71,6 +71,20 @@ void checkError(const SqlStep& step, const DatabaseError& error) {
     EXPECT_EQ(got, step.expectation) << error.description();
 }
 
+/// The query that also shows row numbers must show the same rows.
+void checkRowids(JetFixture& database, const JetFixture::Result& result) {
+    if (!result.program.updatable)
+        return;
+    std::vector<jet::ResultColumn> columns = result.columns;
+    columns.insert(columns.begin(), jet::ResultColumn{"row", FieldType::Long, 0, {}});
+    std::vector<std::vector<Value>> rows = database.queryPlain(result.program.rowidQuery, columns);
+    for (auto& row : rows) {
+        EXPECT_FALSE(row.front().isNull()) << result.program.rowidQuery;
+        row.erase(row.begin());
+    }
+    EXPECT_EQ(rows, result.rows) << result.program.rowidQuery;
+}
+
 class SqlCases : public testing::TestWithParam<SqlCase> {};
 
 TEST_P(SqlCases, holds) {
@@ -81,7 +95,9 @@ TEST_P(SqlCases, holds) {
     for (const SqlStep& step : GetParam().steps) {
         SCOPED_TRACE(step.statement);
         try {
-            checkResult(step, database.run(step.statement));
+            const JetFixture::Result result = database.run(step.statement);
+            checkResult(step, result);
+            checkRowids(database, result);
         } catch (const DatabaseError& error) {
             checkError(step, error);
         }
