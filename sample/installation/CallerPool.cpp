@@ -114,8 +114,11 @@ void CallerPool::groupByRegion(const Geography& geography) {
 }
 
 std::uint32_t CallerPool::drawRank(SeededRandom& random, std::size_t count) {
-    const double u = random.unit();
-    return static_cast<std::uint32_t>(u * std::sqrt(u) * static_cast<double>(count));
+    constexpr double flatness = 0.1;
+    constexpr double cubed = flatness * flatness * flatness;
+    const double u = flatness + (1 - flatness) * random.unit();
+    const double place = (u * u * u - cubed) / (1 - cubed);
+    return static_cast<std::uint32_t>(std::min(place * static_cast<double>(count), static_cast<double>(count - 1)));
 }
 
 std::uint32_t CallerPool::drawIn(std::size_t tvRegion, SeededRandom& random) const {
