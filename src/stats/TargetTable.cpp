@@ -99,12 +99,12 @@ void TargetTable::write(const std::vector<MeasureValue>& values) {
 }
 
 void TargetTable::zeroPeriod() {
-    const std::vector<MeasureValue> zeros = [] {
-        std::vector<MeasureValue> values;
-        for (const Measure measure : allMeasures)
-            values.push_back({measure, 0});
-        return values;
-    }();
-    for (; !rows().EOF_(); rows().MoveNext())
-        onSystemDatabase([&] { write(zeros); });
+    for (; !rows().EOF_(); rows().MoveNext()) {
+        onSystemDatabase([this] {
+            rows().Edit();
+            for (const Measure measure : allMeasures)
+                set(measure, 0);
+            rows().Update();
+        });
+    }
 }
