@@ -1,6 +1,7 @@
 #include "stats/ModData_SelectedTVArea.h"
 
 #include "core/Progress.h"
+#include "stats/StatsProgress.h"
 #include "tests/stats/TVStatistics.h"
 
 #include <gtest/gtest.h>
@@ -208,6 +209,50 @@ TEST(SelectedTVArea, TellsWhatItIsDoing) {
     watching.tasks.clear();
     ModData_SelectedTVArea("TblSelectedDataForTV", 1);
     EXPECT_EQ(watching.tasks, Rows{}) << "only while a main table is filled";
+}
+
+TEST(SelectedTVArea, NamesThatDifferInCaseAndTrailingBlanksAreOneArea) {
+    TVProject project;
+    project.addPlaces({{"07", "LONDON "}, {"08", "mobile"}});
+    project.addCalls({{"A", "01", "0", 1.0},
+                      {"A", "07", "0", 2.0},
+                      {"B", "07", "2", 0},
+                      {"C", "08", "0", 4.0},
+                      {"D", "MOBILE", "4", 0}});
+    ModData_SelectedTVArea("TblTV", 1);
+    const Rows rows = figures("TblTV");
+    ASSERT_EQ(rows.size(), 8U);
+    for (const std::size_t at : {2U, 4U}) {
+        const std::string counted = rows[at].substr(rows[at].find('|'));
+        EXPECT_EQ(counted, at == 2 ? "|3|2|1|3|0|1|0|0|1|1" : "|2|1|1|4|0|0|1|0|1|1") << rows[at];
+    }
+}
+
+/// What the bar of a report was last told, and where it went.
+class BarProgress : public Progress {
+public:
+    BarProgress() { setProgress(this); }
+    ~BarProgress() override { setProgress(nullptr); }
+    void setReportBar(bool visible, long maximum, long value) override {
+        shown.push_back((visible ? "shown " : "hidden ") + std::to_string(value) + "/" + std::to_string(maximum));
+    }
+    Rows shown;
+};
+
+TEST(SelectedTVArea, TheReportsBarGoesOnByMajorStepsUpToItsEnd) {
+    const TVProject project;
+    BarProgress bar;
+    StatsProgressMaximum = 3;
+    StatsProgressStep = 2;
+    ModData_SelectedTVArea("TblSelectedDataForTV", 1);
+    EXPECT_EQ(bar.shown, (Rows{"shown 2/3", "shown 3/3", "hidden 3/3"})) << "the first period starts at step one";
+    bar.shown.clear();
+    StatsProgressMaximum = 20;
+    ModData_SelectedTVArea("TblSelectedDataForTV", 4);
+    EXPECT_EQ(bar.shown, (Rows{"shown 4/20", "shown 5/20", "shown 6/20", "shown 7/20", "hidden 7/20"}))
+        << "later periods go on from where the bar stands";
+    StatsProgressMaximum = 0;
+    StatsProgressStep = 0;
 }
 
 TEST(SelectedTVArea, AFailingStatementIsLoggedAndTheRunEnds) {
