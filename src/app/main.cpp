@@ -4,6 +4,7 @@
 #include "core/ModDeclarations.h"
 #include "core/Version.h"
 #include "core/cPathControl.h"
+#include "ui/InterfaceFont.h"
 #include "ui/MessageBoxPrompts.h"
 #include "ui/Skin.h"
 
@@ -25,6 +26,7 @@ int run(QApplication& application, const ProgramOptions& options) {
     QApplication::setApplicationName(QString::fromUtf8(programTitle));
     QApplication::setApplicationVersion(QString::fromStdString(programVersion()));
     applySkin(application);
+    applyInterfaceFont();
     MessageBoxPrompts messageBoxes;
     const InstallationFolders folders = foldersOf(options);
     DesktopStart actions(folders.programFolder, options.arguments);

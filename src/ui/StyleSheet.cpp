@@ -29,6 +29,7 @@ QPushButton[kind="primary"]:disabled { background: <grey3>; color: <grey5>; bord
 QPushButton[kind="danger"] { color: <coral6>; border-color: <coral3>; }
 QPushButton[kind="danger"]:hover { background: <coral1>; border-color: <coral6>; }
 QMessageBox QPushButton { min-width: 72px; }
+QMessageBox, QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }
 
 QListView { background: white; border: none; outline: none; padding: 4px; }
 QListView::item { border-radius: 6px; padding: 7px 8px; color: <grey6>; }
