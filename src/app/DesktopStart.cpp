@@ -36,7 +36,9 @@ bool DesktopStart::mainWindowIsOpen() const {
     return mainWindow_ && mainWindow_->isVisible();
 }
 
-int DesktopStart::ModUtilities_CheckForNewUKMapDB() { return ::ModUtilities_CheckForNewUKMapDB(); }
+int DesktopStart::ModUtilities_CheckForNewUKMapDB() {
+    return ::ModUtilities_CheckForNewUKMapDB();
+}
 
 bool DesktopStart::OpenProjectDatabase(const std::string& path) {
     return ::OpenProjectDatabase(path);

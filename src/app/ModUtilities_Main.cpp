@@ -5,6 +5,7 @@
 #include "core/CommandLine.h"
 #include "core/FileNames.h"
 #include "core/LogAndGoOn.h"
+#include "core/LogError.h"
 #include "core/ModDeclarations.h"
 #include "core/Prompts.h"
 #include "core/RuntimeError.h"
@@ -20,6 +21,7 @@
 
 namespace {
 
+constexpr const char* procedure = "ModUtilities_Main";
 constexpr long inputPastEndOfFile = 62;
 constexpr long fileAccessError = 75;
 constexpr long objectNotSet = 91;
@@ -52,7 +54,6 @@ void loadInterfaceFont(StartActions& actions) {
 bool systemDatabaseIsUpToDate(StartActions& actions) {
     int failure = 0;
     logAndGoOn([&] { failure = actions.ModUtilities_CheckForNewUKMapDB(); });
-    gsCurrentProc = "ModUtilities_Main";
     return failure == 0;
 }
 
@@ -103,7 +104,7 @@ StartResult openSystemDatabaseAndShow(StartActions& actions) {
         return StartResult::Running;
     } catch (const std::exception& error) {
         // The message cannot tell a missing file from a locked or damaged one: the log and the console can.
-        logCurrentError();
+        LogError(procedure, currentError().number, error.what());
         std::cerr << programTitle << ": " << error.what() << '\n';
         return endWith("Mapping database cannot be found");
     }
@@ -150,7 +151,7 @@ void openLatestProject(StartActions& actions) {
 } // namespace
 
 StartResult ModUtilities_Main(const InstallationFolders& folders, StartActions& actions) {
-    gsCurrentProc = "ModUtilities_Main";
+    gsCurrentProc = procedure;
     if (prepare(folders, actions) == StartResult::Ended || openSystemDatabaseAndShow(actions) == StartResult::Ended)
         return StartResult::Ended;
     logAndGoOn([&] { openLatestProject(actions); });
