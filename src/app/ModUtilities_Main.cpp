@@ -33,12 +33,20 @@ cPathControl& paths() {
     return *gPaths;
 }
 
+/// For who starts the program from a console: the message boxes do not tell the reason.
+void tellConsole(const std::exception& error) {
+    std::cerr << programTitle << ": " << error.what() << '\n';
+}
+
 void createPathsAndColours(const InstallationFolders& folders) {
-    logAndGoOn([&] {
+    try {
         gPaths = std::make_shared<cPathControl>(folders.programFolder, folders.commonDataFolder);
         if (!folders.systemFolder.empty())
             gPaths->SystemDataPath = folders.systemFolder;
-    });
+    } catch (const std::exception& error) {
+        logCurrentError();
+        tellConsole(error);
+    }
     gColours = std::make_shared<cColours_CS>();
 }
 
@@ -105,7 +113,7 @@ StartResult openSystemDatabaseAndShow(StartActions& actions) {
     } catch (const std::exception& error) {
         // The message cannot tell a missing file from a locked or damaged one: the log and the console can.
         LogError(procedure, currentError().number, error.what());
-        std::cerr << programTitle << ": " << error.what() << '\n';
+        tellConsole(error);
         return endWith("Mapping database cannot be found");
     }
 }

@@ -62,6 +62,11 @@ TEST_F(SystemMapUpkeep, TouchesNothingWithoutADeliveredFile) {
     EXPECT_FALSE(std::filesystem::exists(working()));
 }
 
+TEST_F(SystemMapUpkeep, FailsWithoutFolders) {
+    gPaths.reset();
+    EXPECT_NE(ModUtilities_CheckForNewUKMapDB(), 0);
+}
+
 TEST_F(SystemMapUpkeep, CopiesTheDeliveredFileAtTheFirstStart) {
     makeMap(delivered(), "1.2");
     std::filesystem::permissions(delivered(), std::filesystem::perms::owner_read);
