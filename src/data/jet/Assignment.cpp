@@ -29,6 +29,13 @@ bool isNumberOrDate(const StaticType& type) {
     return type.type && (isNumeric(*type.type) || *type.type == FieldType::Date);
 }
 
+std::string intoBoolean(const std::string& value, const StaticType& type) {
+    const std::string truth = type.type == FieldType::Boolean ? value
+                              : isNumberOrDate(type)          ? "(- (" + value + " <> 0))"
+                                                              : call("jet_to_boolean", value);
+    return type.nullable ? "ifnull(" + truth + ", 0)" : truth;
+}
+
 /// A number as a Single keeps it.
 double narrowed(double number) {
     if (std::fabs(number) > static_cast<double>(std::numeric_limits<float>::max()))
@@ -93,7 +100,7 @@ std::string assignedLiteral(const Expression& expression, const Field& field) {
 
 std::string convertedText(const std::string& value, const StaticType& type, const Field& field, std::size_t position) {
     if (type.alwaysNull)
-        return value;
+        return field.type == FieldType::Boolean ? "0" : value; // yes or no, never null
     if (type.type == FieldType::LongBinary && field.type != FieldType::LongBinary)
         mismatch(position);
     switch (field.type) {
@@ -101,9 +108,7 @@ std::string convertedText(const std::string& value, const StaticType& type, cons
     case FieldType::Memo:
         return intoText(value, type, field);
     case FieldType::Boolean:
-        if (type.type == FieldType::Boolean)
-            return value;
-        return isNumberOrDate(type) ? "(- (" + value + " <> 0))" : call("jet_to_boolean", value);
+        return intoBoolean(value, type);
     case FieldType::Byte:
         return type.type == FieldType::Byte ? value : call("jet_to_byte", value);
     case FieldType::Integer:

@@ -26,6 +26,7 @@ public:
     /// where the types do not convert at all.
     std::string assigned(const Expression& expression, const Field& field);
 
+    /// A FROM clause whose tables all have row numbers.
     std::string from(const std::vector<std::unique_ptr<FromItem>>& items);
 
 private:
@@ -51,6 +52,8 @@ private:
     void collectInner(const FromItem& item, std::vector<const FromItem*>& tables,
                       std::vector<const Expression*>& conditions);
     std::string bracketedItem(const FromItem& item);
+    std::string outerJoin(const FromItem& item);
+    std::string keyedJoin(const FromItem& left, const FromItem& right, const Expression& on);
 
     // ExpressionEmitter.cpp
     std::string text(const Expression& expression);
@@ -71,7 +74,8 @@ private:
     std::string nativeFunction(const Expression& expression);
     std::string dialectCall(const Expression& expression);
     std::string aggregate(const Expression& expression);
-    std::string cases(const Expression& expression, std::size_t first);
+
+    bool needsRowids_ = true; ///< in the clause that is being written
 };
 
 /// A value as the storage library writes it.

@@ -245,7 +245,9 @@ std::string Emitter::like(const Expression& expression) {
             const std::string named = carriesCollation(tested) ? "" : " COLLATE JET";
             return "(" + text(tested) + named + (expression.negated ? " <> " : " = ") + quoteLiteral(wanted) + ")";
         }
-        return "(" + negation + "jet_like(" + text(tested) + ", " + quoteLiteral(wanted) + "))";
+        const std::string test = "jet_like(" + text(tested) + ", " + quoteLiteral(wanted) + ")";
+        // Without the hint the library would rather join first and test every pair of rows.
+        return expression.negated ? "(NOT " + test + ")" : "unlikely(" + test + ")";
     }
     // x Like y & '*' is the common test for a prefix held in another column.
     if (pattern.kind == Kind::Arithmetic && pattern.op == Operator::Concatenate &&

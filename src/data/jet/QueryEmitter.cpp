@@ -3,6 +3,7 @@
 #include "data/jet/StaticTypes.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace jet {
 
@@ -125,8 +126,11 @@ std::string Emitter::outputList(const Select& select, const Form& form) {
 
 std::string Emitter::clauses(const Select& select) {
     std::string sql;
-    if (!select.from.empty())
+    if (!select.from.empty()) {
+        const bool outside = std::exchange(needsRowids_, false);
         sql += " FROM " + from(select.from);
+        needsRowids_ = outside;
+    }
     if (select.where)
         sql += " WHERE " + condition(*select.where);
     for (std::size_t i = 0; i < select.groupBy.size(); ++i) {
@@ -197,61 +201,6 @@ std::string Emitter::topByOrder(const Select& select, const Form& form) {
     return "SELECT " + shown + " FROM (SELECT *, " + over + " AS \"%rank\"" +
            (select.topPercent ? ", count(*) OVER () AS \"%count\"" : "") + " FROM (" + rows +
            ")) WHERE \"%rank\" <= " + limit + " ORDER BY \"%rank\"";
-}
-
-std::string Emitter::from(const std::vector<std::unique_ptr<FromItem>>& items) {
-    std::string sql;
-    for (const auto& item : items)
-        sql += (sql.empty() ? "" : ", ") + fromItem(*item);
-    return sql;
-}
-
-std::string Emitter::fromItem(const FromItem& item) {
-    switch (item.kind) {
-    case FromItem::Kind::Table: {
-        const Table& table = *item.source->table;
-        return quoteIdentifier(table.schema) + "." + quoteIdentifier(table.name) + " AS " +
-               quoteIdentifier(item.source->name);
-    }
-    case FromItem::Kind::Derived:
-        return "(" + subquery(*item.query) + ") AS " + quoteIdentifier(item.source->name);
-    case FromItem::Kind::Join:
-        break;
-    }
-    if (item.join == FromItem::Join::Inner)
-        return innerJoin(item);
-    // A right join is the left join of the two in the other order.
-    const bool left = item.join == FromItem::Join::Left;
-    return fromItem(left ? *item.left : *item.right) + " LEFT JOIN " + bracketedItem(left ? *item.right : *item.left) +
-           " ON " + condition(*item.on);
-}
-
-std::string Emitter::bracketedItem(const FromItem& item) {
-    return item.kind == FromItem::Kind::Join ? "(" + fromItem(item) + ")" : fromItem(item);
-}
-
-/// Inner joins nested in brackets are one join of all their tables, which leaves the order of the joins to the library.
-std::string Emitter::innerJoin(const FromItem& item) {
-    std::vector<const FromItem*> tables;
-    std::vector<const Expression*> conditions;
-    collectInner(item, tables, conditions);
-    std::string sql = fromItem(*tables.front());
-    for (std::size_t i = 1; i < tables.size(); ++i)
-        sql += " JOIN " + bracketedItem(*tables[i]);
-    for (std::size_t i = 0; i < conditions.size(); ++i)
-        sql += (i == 0 ? " ON " : " AND ") + condition(*conditions[i]);
-    return sql;
-}
-
-void Emitter::collectInner(const FromItem& item, std::vector<const FromItem*>& tables,
-                           std::vector<const Expression*>& conditions) {
-    if (item.kind != FromItem::Kind::Join || item.join != FromItem::Join::Inner) {
-        tables.push_back(&item);
-        return;
-    }
-    collectInner(*item.left, tables, conditions);
-    collectInner(*item.right, tables, conditions);
-    conditions.push_back(item.on.get());
 }
 
 } // namespace jet

@@ -124,6 +124,8 @@ std::string columnDefinition(const Field& field) {
         sql += " CHECK(length(" + quoteIdentifier(field.name) + ") > 0)";
     if (field.defaultValue)
         sql += " DEFAULT " + *field.defaultValue;
+    else if (field.type == FieldType::Boolean)
+        sql += " DEFAULT 0"; // yes or no, never null
     return sql;
 }
 
