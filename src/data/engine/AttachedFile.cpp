@@ -140,7 +140,8 @@ jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
         Field field = fieldOfDeclaredType(columns.text(2)).value_or(memo);
         field.name = columns.text(1);
         field.required = columns.integer(3) != 0;
-        if (!columns.isNull(4))
+        const bool givenByType = field.type == FieldType::Boolean && columns.text(4) == "0";
+        if (!columns.isNull(4) && !givenByType)
             field.defaultValue = std::string(columns.text(4));
         table.columns.push_back(std::move(field));
     }
