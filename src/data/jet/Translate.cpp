@@ -11,27 +11,38 @@ namespace jet {
 
 namespace {
 
-/// The statement for a bare table name, as openRecordset takes it; the statement itself where it is none.
-std::string withoutShorthand(std::string_view statement, Catalog& catalog) {
-    const std::vector<Token> words = lex(statement);
+/// The table that the text names alone, as openRecordset takes it; empty where it is a statement.
+std::string bareTableName(std::string_view text, Catalog& catalog) {
+    const std::vector<Token> words = lex(text);
     if (words.size() == 2 && words.front().kind == Token::Kind::Name)
-        return "SELECT * FROM [" + words.front().text + "]";
+        return words.front().text;
+    const std::size_t begin = text.find_first_not_of(" \t\r\n");
+    const std::size_t end = text.find_last_not_of(" \t\r\n;");
     const bool startsStatement = words.front().kind != Token::Kind::Word || isReserved(words.front().text);
-    const std::size_t end = statement.find_last_not_of(" \t\r\n;");
-    const std::size_t begin = statement.find_first_not_of(" \t\r\n");
     if (startsStatement || end == std::string_view::npos)
-        return std::string(statement);
-    const std::string_view name = statement.substr(begin, end + 1 - begin);
-    const bool oneWord = words.size() == 2 || (words.size() == 3 && words[1].text == ";");
-    if (name.find(']') == std::string_view::npos && (oneWord || catalog.findTable(name)))
-        return "SELECT * FROM [" + std::string(name) + "]";
-    return std::string(statement);
+        return {};
+    const std::string_view name = text.substr(begin, end + 1 - begin);
+    if (words.size() == 2 || (words.size() == 3 && words[1].text == ";"))
+        return std::string(name);
+    const bool couldBeName = name.find(']') == std::string_view::npos && name.find('\0') == std::string_view::npos;
+    return couldBeName && catalog.findTable(name) ? std::string(name) : std::string();
+}
+
+Program translateTable(const std::string& name, std::size_t position, Catalog& catalog) {
+    try {
+        Statement statement = parse("SELECT * FROM [" + name + "]");
+        return translateQuery(std::get<Query>(statement), catalog);
+    } catch (const DatabaseError& error) {
+        throw DatabaseError(error.number(), error.description(), position);
+    }
 }
 
 } // namespace
 
 Program translate(std::string_view text, Catalog& catalog) {
-    Statement statement = parse(withoutShorthand(text, catalog));
+    if (const std::string table = bareTableName(text, catalog); !table.empty())
+        return translateTable(table, text.find_first_not_of(" \t\r\n"), catalog);
+    Statement statement = parse(text);
     return std::visit(
         [&](auto& tree) -> Program {
             using T = std::decay_t<decltype(tree)>;

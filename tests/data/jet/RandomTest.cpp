@@ -1,0 +1,221 @@
+#include "data/jet/Search.h"
+#include "data/types/DatabaseError.h"
+#include "tests/data/jet/JetFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+namespace {
+
+/// Makes random tables and expressions, the same ones in every run.
+class Maker {
+public:
+    explicit Maker(unsigned seed) : random_(seed) {}
+
+    int below(int limit) { return static_cast<int>(random_() % static_cast<unsigned>(limit)); }
+    std::string pick(const std::vector<std::string>& from) {
+        return from[static_cast<std::size_t>(below(static_cast<int>(from.size())))];
+    }
+
+    std::string number(int depth) {
+        if (depth == 0)
+            return pick({"a", "b", "c", "0", "1", "2", "-3", "2.5", "Null"});
+        switch (below(7)) {
+        case 0:
+            return "(" + number(depth - 1) + pick({" + ", " - ", " * ", " / "}) + number(depth - 1) + ")";
+        case 1:
+            return "(" + number(depth - 1) + pick({" \\ ", " Mod "}) + number(depth - 1) + ")";
+        case 2:
+            return "Abs(" + number(depth - 1) + ")";
+        case 3:
+            return "IIf(" + condition(depth - 1) + ", " + number(depth - 1) + ", " + number(depth - 1) + ")";
+        case 4:
+            return "Len(" + text(depth - 1) + ")";
+        case 5:
+            return pick({"Int(", "Fix(", "Sgn(", "Round("}) + number(depth - 1) + ")";
+        default:
+            return "-" + number(depth - 1);
+        }
+    }
+
+    std::string text(int depth) {
+        if (depth == 0)
+            return pick({"t", "u", "'x'", "'AB '", "''", "'ab'", "Null"});
+        switch (below(6)) {
+        case 0:
+            return "(" + text(depth - 1) + " & " + text(depth - 1) + ")";
+        case 1:
+            return pick({"UCase(", "LCase(", "Trim(", "RTrim("}) + text(depth - 1) + ")";
+        case 2:
+            return "Left(" + text(depth - 1) + ", " + std::to_string(below(4)) + ")";
+        case 3:
+            return "Mid(" + text(depth - 1) + ", " + std::to_string(1 + below(3)) + ", 2)";
+        case 4:
+            return "(" + number(depth - 1) + " & '')";
+        default:
+            return "Nz(" + text(depth - 1) + ", 'n')";
+        }
+    }
+
+    std::string condition(int depth) {
+        const int inner = depth > 0 ? depth - 1 : 0;
+        if (depth > 0 && below(2) == 0) {
+            if (below(4) == 0)
+                return "(Not " + condition(inner) + ")";
+            return "(" + condition(inner) + pick({" And ", " Or ", " Xor "}) + condition(inner) + ")";
+        }
+        const std::string negation = pick({"", "Not "});
+        switch (below(7)) {
+        case 0:
+            return "(" + number(inner) + pick({" = ", " <> ", " < ", " <= ", " > ", " >= "}) + number(inner) + ")";
+        case 1:
+            return "(" + text(inner) + pick({" = ", " <> ", " < ", " >= "}) + text(inner) + ")";
+        case 2:
+            return "(" + text(inner) + " " + negation + "Like " +
+                   pick({"'a*'", "'*B*'", "'?'", "'[a-m]*'", "'ab'", "'#*'", "u", "u & '*'"}) + ")";
+        case 3:
+            return "(" + number(inner) + " " + negation + "In (" + number(0) + ", " + number(0) + ", 7))";
+        case 4:
+            return "(" + text(inner) + " " + negation + "In ('ab', " + text(0) + "))";
+        case 5:
+            return "(" + number(inner) + " " + negation + "Between " + number(0) + " And " + number(0) + ")";
+        default:
+            return "(" + text(inner) + pick({" Is Null", " Is Not Null"}) + ")";
+        }
+    }
+
+    std::string cellText() {
+        return pick({"Null", "''", "'ab'", "'AB  '", "'aB'", "'x'", "'3'", "'.fr'", "'é'", "'É'"});
+    }
+
+private:
+    std::mt19937 random_;
+};
+
+constexpr int rowCount = 40;
+
+void fill(JetFixture& database, Maker& maker) {
+    database.run("CREATE TABLE R (id Long, a Long, b Double, c Currency, t Text(20), u Text(20))");
+    for (int i = 0; i < rowCount; ++i)
+        database.run("INSERT INTO R VALUES (" + std::to_string(i) + ", " +
+                     maker.pick({"Null", "0", "1", "2", "-3", "7"}) + ", " +
+                     maker.pick({"Null", "0", "2.5", "-0.5", "3.5"}) + ", " +
+                     maker.pick({"Null", "0.1", "0.2", "-0.3", "2.5"}) + ", " + maker.cellText() + ", " +
+                     maker.cellText() + ")");
+}
+
+/// Either the rows that a condition holds for, or the number of its error.
+struct Answer {
+    std::set<std::int64_t> rows;
+    long error = 0;
+};
+
+Answer byStatement(JetFixture& database, const std::string& condition) {
+    Answer answer;
+    try {
+        for (const auto& row : database.run("SELECT id FROM R WHERE " + condition).rows)
+            answer.rows.insert(row.front().asInteger());
+    } catch (const DatabaseError& error) {
+        answer.error = error.number();
+    }
+    return answer;
+}
+
+Answer bySearch(const std::vector<std::vector<Value>>& rows, const std::string& condition) {
+    static const std::vector<std::string> names{"id", "a", "b", "c", "t", "u"};
+    Answer answer;
+    try {
+        const jet::Search search(condition, [](std::string_view name) {
+            const auto found = std::find(names.begin(), names.end(), name);
+            return found == names.end() ? -1 : static_cast<int>(found - names.begin());
+        });
+        for (const auto& row : rows) {
+            if (search.matches([&](int column) -> const Value& { return row[static_cast<std::size_t>(column)]; }))
+                answer.rows.insert(row.front().asInteger());
+        }
+    } catch (const DatabaseError& error) {
+        answer.error = error.number();
+    }
+    return answer;
+}
+
+} // namespace
+
+TEST(RandomConditions, AStatementAndASearchFindTheSameRows) {
+    JetFixture database;
+    Maker maker(20250131);
+    fill(database, maker);
+    const auto rows = database.run("SELECT * FROM R").rows;
+    int compared = 0;
+    int found = 0;
+    for (int i = 0; i < 4000; ++i) {
+        const std::string condition = maker.condition(1 + i % 4);
+        const Answer statement = byStatement(database, condition);
+        const Answer search = bySearch(rows, condition);
+        // The two need not look at the same parts of a condition before they meet a fault.
+        if (statement.error != 0 || search.error != 0)
+            continue;
+        ++compared;
+        found += statement.rows.empty() ? 0 : 1;
+        ASSERT_EQ(statement.rows, search.rows) << condition << "\n"
+                                               << jet::translate("SELECT id FROM R WHERE " + condition, database).query;
+    }
+    EXPECT_GT(compared, 3500);
+    EXPECT_GT(found, 1500);
+}
+
+TEST(RandomQueries, PlainStatementsOfTheLibraryGiveTheSame) {
+    JetFixture database;
+    Maker maker(7);
+    database.run("CREATE TABLE P (k Long, n Long, d Double)");
+    database.run("CREATE TABLE Q (k Long, w Long)");
+    for (int i = 0; i < 200; ++i) {
+        database.run("INSERT INTO P VALUES (" + std::to_string(maker.below(20)) + ", " +
+                     maker.pick({"Null", "1", "2", "5"}) + ", " + std::to_string(maker.below(100)) + ".25)");
+        if (i % 5 == 0)
+            database.run("INSERT INTO Q VALUES (" + std::to_string(maker.below(30)) + ", " +
+                         std::to_string(maker.below(9)) + ")");
+    }
+    for (int i = 0; i < 300; ++i) {
+        const std::string join = maker.pick({"INNER", "LEFT", "RIGHT"}) + " JOIN Q ON P.k = Q.k";
+        const std::string where = maker.pick({"", " WHERE P.n > 1", " WHERE Q.w <= 4 OR P.n IS NULL",
+                                              " WHERE P.k NOT IN (SELECT k FROM Q WHERE w > 5)",
+                                              " WHERE EXISTS (SELECT * FROM Q AS x WHERE x.k = P.k AND x.w = P.n)"});
+        const std::string list = maker.pick({"P.k, Count(*) AS c, Sum(P.n) AS s", "P.k, Min(Q.w) AS c, Max(P.d) AS s",
+                                             "P.k, Avg(P.d) AS c, Count(P.n) AS s"});
+        const std::string sql =
+            "SELECT " + list + " FROM P " + join + where + " GROUP BY P.k ORDER BY P.k" + maker.pick({"", " DESC"});
+        const JetFixture::Result result = database.run(sql);
+        ASSERT_EQ(result.rows, database.queryPlain(sql, result.columns)) << sql;
+    }
+}
+
+TEST(RandomJoins, KeysThatDifferInCaseAndBlanksMeet) {
+    JetFixture database;
+    Maker maker(99);
+    database.run("CREATE TABLE Many (k Text(20), n Long)");
+    database.run("CREATE TABLE Keys (k Text(20))");
+    const auto spelled = [&](int key) {
+        std::string text = "Key " + std::to_string(key);
+        if (maker.below(2) == 0)
+            text = upperText(text);
+        return text.append(static_cast<std::size_t>(maker.below(3)), ' ');
+    };
+    for (int i = 0; i < 30; ++i)
+        database.run("INSERT INTO Keys VALUES ('" + spelled(i) + "')");
+    int expected = 0;
+    for (int i = 0; i < 3000; ++i) {
+        const int key = maker.below(60);
+        expected += key < 30;
+        database.run("INSERT INTO Many VALUES ('" + spelled(key) + "', " + std::to_string(i) + ")");
+    }
+    const Value count(static_cast<std::int64_t>(expected));
+    for (const char* sql : {"SELECT Count(*) AS c FROM Many INNER JOIN Keys ON Many.k = Keys.k",
+                            "SELECT Count(*) AS c FROM Keys INNER JOIN Many ON Many.k = Keys.k WHERE Many.n >= 0",
+                            "SELECT Count(*) AS c FROM Many WHERE k In (SELECT k FROM Keys)",
+                            "SELECT Count(Keys.k) AS c FROM Many LEFT JOIN Keys ON Trim(Many.k) = Trim(Keys.k)"})
+        EXPECT_EQ(database.run(sql).rows.front().front(), count) << sql;
+}
