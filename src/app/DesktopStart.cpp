@@ -49,5 +49,5 @@ int DesktopStart::ModUtilities_UpdateMappingGISTable(Database& project) {
 }
 
 void DesktopStart::ModUtilities_OpenMap() {
-    mainWindow_->showProjectName();
+    mainWindow_->showProject();
 }

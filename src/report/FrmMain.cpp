@@ -7,6 +7,8 @@
 #include "core/cPathControl.h"
 #include "report/HistoryPanel.h"
 #include "report/NoProjectPage.h"
+#include "report/ProjectPage.h"
+#include "report/ProjectPeriod.h"
 #include "report/ReleaseSystemDatabase.h"
 #include "report/ReportStatus.h"
 #include "ui/AppIcon.h"
@@ -21,11 +23,13 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 FrmMain::FrmMain(QWidget* parent)
     : QWidget(parent), uctHeader1(new uctHeader(this)), Label3(uctHeader1->detailLabel()),
-      historyPanel_(new HistoryPanel(this)), status_(new ReportStatus(this)), uctFooter1(new uctFooter(this)) {
+      historyPanel_(new HistoryPanel(this)), pages_(new QStackedWidget), projectPage_(new ProjectPage),
+      status_(new ReportStatus(this)), uctFooter1(new uctFooter(this)) {
     setObjectName(QStringLiteral("FrmMain"));
     uctHeader1->setObjectName(QStringLiteral("uctHeader1"));
     uctHeader1->sloganLabel()->setObjectName(QStringLiteral("lblSlogan"));
@@ -46,7 +50,7 @@ void FrmMain::Form_Load() {
     CmdClose()->setText(tr("&Close"));
     CmdClose()->setToolTip(tr("Close the program"));
     readHistory();
-    showProjectName();
+    showProject();
     LstHistory()->setFocus();
 }
 
@@ -57,8 +61,10 @@ void FrmMain::arrange() {
     middle->setFrameShape(QFrame::NoFrame);
     middle->setFocusPolicy(Qt::NoFocus);
     middle->viewport()->setAutoFillBackground(false);
-    middle->setWidget(new NoProjectPage);
-    middle->widget()->setAutoFillBackground(false);
+    pages_->addWidget(new NoProjectPage);
+    pages_->addWidget(projectPage_);
+    middle->setWidget(pages_);
+    pages_->setAutoFillBackground(false);
     historyPanel_->setMinimumWidth(160);
     historyPanel_->setMaximumWidth(280);
 
@@ -89,10 +95,13 @@ void FrmMain::readHistory() {
     historyPanel_->showRows(CallHistory::readRows(fileInFolder(folder, CallHistory::fileName)));
 }
 
-void FrmMain::showProjectName() {
-    Label3->setText(gdbProject ? QString::fromStdString(CallHistory::shortName(gsProjectPath))
-                               : tr("Please select a file"));
-    setRole(*Label3, gdbProject ? "detail" : "hint");
+void FrmMain::showProject() {
+    const bool open = gdbProject != nullptr;
+    Label3->setText(open ? QString::fromStdString(CallHistory::shortName(gsProjectPath)) : tr("Please select a file"));
+    setRole(*Label3, open ? "detail" : "hint");
+    if (open)
+        projectPage_->showProject(gsProjectPath, projectPeriod());
+    pages_->setCurrentIndex(open ? 1 : 0);
 }
 
 QListWidget* FrmMain::LstHistory() const {

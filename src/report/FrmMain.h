@@ -3,10 +3,12 @@
 #include <QWidget>
 
 class HistoryPanel;
+class ProjectPage;
 class ReportStatus;
 class QLabel;
 class QListWidget;
 class QPushButton;
+class QStackedWidget;
 class uctFooter;
 class uctHeader;
 
@@ -20,8 +22,9 @@ public:
 
     /// Fills LstHistory from CallHistory.csv of the application data folder.
     void readHistory();
-    /// Shows the short name of the project at gsProjectPath in Label3, or that one is to be chosen.
-    void showProjectName();
+    /// Shows the open project: its short name in Label3, what is known of it in the middle. Or that one is to be
+    /// chosen.
+    void showProject();
 
     QListWidget* LstHistory() const;
     QPushButton* CmdClose() const;
@@ -42,6 +45,8 @@ private:
     uctHeader* uctHeader1;
     QLabel* Label3; ///< the header's detail
     HistoryPanel* historyPanel_;
+    QStackedWidget* pages_; ///< without and with a project
+    ProjectPage* projectPage_;
     ReportStatus* status_;
     uctFooter* uctFooter1;
 };

@@ -59,12 +59,28 @@ TEST_F(MainWindow, ShowsTitleHistoryAndWhatToDoFirst) {
     EXPECT_LE(window.minimumSizeHint().height(), 400) << "fits a small screen at 200 %";
 }
 
-TEST_F(MainWindow, NamesTheOpenProject) {
+TEST_F(MainWindow, TellsOfTheOpenProject) {
     FrmMain window;
-    gdbProject = gdbSystem;
+    window.show();
+    EXPECT_TRUE(window.findChild<QLabel*>("lblNoProject")->isVisible());
+
+    gdbProject = defaultWorkspace()->createDatabase(folder_.file("March.mdb"));
     gsProjectPath = "/data/March.mdb";
-    window.showProjectName();
+    window.showProject();
     EXPECT_EQ(textOf(window, "Label3"), "March");
+    EXPECT_FALSE(window.findChild<QLabel*>("lblNoProject")->isVisible());
+    EXPECT_EQ(textOf(window, "lblProjectPath"), "/data/March.mdb");
+    EXPECT_EQ(textOf(window, "lblProjectPeriod"), "The period of its calls is not known") << "no summary";
+
+    createVocabularyTable(*gdbProject, DatabaseKind::Project, "TblCallSummary1");
+    gdbProject->execute("INSERT INTO TblCallSummary1 (SBSStartDate, SBSEndDate) VALUES (#1/6/2025#, #3/31/2025#)");
+    window.showProject();
+    EXPECT_EQ(textOf(window, "lblProjectPeriod"), "Calls from 06/01/2025 to 31/03/2025");
+
+    gdbProject.reset();
+    window.showProject();
+    EXPECT_EQ(textOf(window, "Label3"), "Please select a file");
+    EXPECT_TRUE(window.findChild<QLabel*>("lblNoProject")->isVisible());
 }
 
 TEST_F(MainWindow, OffersProjectsToMouseAndKeyboard) {
