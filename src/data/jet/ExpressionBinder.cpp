@@ -198,6 +198,8 @@ bool Binder::columnIn(Expression& expression, Scope& scope) {
             throw DatabaseError(3103, "Circular reference caused by the alias '" + aliased.alias + "'",
                                 expression.position);
         bindColumn(i, scope);
+        if (inAggregate_ && hasAggregate(*aliased.expression))
+            throw DatabaseError(3095, "An aggregate cannot stand inside another", expression.position);
         expression.bound.target = aliased.expression.get();
         expression.bound.type = aliased.expression->bound.type;
         return true;

@@ -49,6 +49,16 @@ bool isCalculatedDate(const Expression& expression) {
     return isDate(shown.bound.type) && (shown.kind == Kind::Arithmetic || shown.kind == Kind::Negate);
 }
 
+/// Whether the library holds the value as a real, so that it divides with a fraction. A sum or choice of type Double
+/// can be whole.
+bool isCertainlyReal(const Expression& expression) {
+    const Expression& shown = resolved(expression);
+    const bool wholeType = !shown.bound.type.type || isWhole(shown.bound.type) || isText(shown.bound.type);
+    if (shown.kind == Kind::Column)
+        return !wholeType && shown.bound.source->table && !shown.bound.source->table->isView;
+    return shown.kind == Kind::Literal && std::holds_alternative<double>(shown.literal.storage());
+}
+
 std::string inSeconds(const std::string& date) {
     return "round((" + date + ") * 86400.0)";
 }
@@ -302,9 +312,9 @@ std::string Emitter::plainArithmetic(const Expression& expression) {
     case Operator::Multiply:
         return "(" + a + " * " + b + ")";
     case Operator::Divide: // by zero gives null in the library, too
-        return isWhole(expression.operands[0]->bound.type) || !expression.operands[0]->bound.type.type
-                   ? "(CAST(" + a + " AS REAL) / " + b + ")"
-                   : "(" + a + " / " + b + ")";
+        if (isCertainlyReal(*expression.operands[0]) || isCertainlyReal(*expression.operands[1]))
+            return "(" + a + " / " + b + ")";
+        return "(CAST(" + a + " AS REAL) / " + b + ")";
     case Operator::IntegerDivide:
         return wholes ? "(" + a + " / " + b + ")" : "jet_intdivide(" + a + ", " + b + ")";
     case Operator::Modulo:

@@ -151,7 +151,7 @@ TEST(RandomConditions, AStatementAndASearchFindTheSameRows) {
     const auto rows = database.run("SELECT * FROM R").rows;
     int compared = 0;
     int found = 0;
-    for (int i = 0; i < 4000; ++i) {
+    for (int i = 0; i < 10000; ++i) {
         const std::string condition = maker.condition(1 + i % 4);
         const Answer statement = byStatement(database, condition);
         const Answer search = bySearch(rows, condition);
@@ -163,8 +163,8 @@ TEST(RandomConditions, AStatementAndASearchFindTheSameRows) {
         ASSERT_EQ(statement.rows, search.rows) << condition << "\n"
                                                << jet::translate("SELECT id FROM R WHERE " + condition, database).query;
     }
-    EXPECT_GT(compared, 3500);
-    EXPECT_GT(found, 1500);
+    EXPECT_GT(compared, 9000);
+    EXPECT_GT(found, 4000);
 }
 
 TEST(RandomQueries, PlainStatementsOfTheLibraryGiveTheSame) {
