@@ -41,6 +41,7 @@ private:
     // QueryEmitter.cpp
     std::string queryText(const Query& query, Form form);
     std::string subquery(const Query& query);
+    std::string scalarQuery(const Query& query);
     std::string select(const Select& select, const Form& form);
     std::string topByOrder(const Select& select, const Form& form);
     std::string outputList(const Select& select, const Form& form);

@@ -108,9 +108,27 @@ private:
         return unknown ? Truth() : Truth(!decides);
     }
 
+    /// An operand of a comparison without a copy where it lies in the row or the statement; `held` keeps any other.
+    /// Case does not count in comparisons, so that UCase(x) is x.
+    const Value& compared(const Expression& e, Value& held) const {
+        if (e.kind == Kind::Literal)
+            return e.literal;
+        if (e.kind == Kind::Column)
+            return cells_(e.bound.column);
+        if (e.kind == Kind::Function && (e.bound.function->name == "UCASE" || e.bound.function->name == "LCASE")) {
+            const Value& inner = compared(*e.operands[0], held);
+            if (inner.isText())
+                return inner;
+        }
+        held = value(e);
+        return held;
+    }
+
     Truth comparison(const Expression& e) const {
-        const Value a = value(*e.operands[0]);
-        const Value b = value(*e.operands[1]);
+        Value heldA;
+        Value heldB;
+        const Value& a = compared(*e.operands[0], heldA);
+        const Value& b = compared(*e.operands[1], heldB);
         if (a.isNull() || b.isNull())
             return {};
         const int order = located(e, [&] { return compareValues(a, b); });
@@ -145,20 +163,24 @@ private:
     }
 
     Truth like(const Expression& e) const {
-        const Value text = value(*e.operands[0]);
-        const Value pattern = value(*e.operands[1]);
+        Value heldText;
+        Value heldPattern;
+        const Value& text = compared(*e.operands[0], heldText);
+        const Value& pattern = compared(*e.operands[1], heldPattern);
         if (text.isNull() || pattern.isNull())
             return {};
         return isLike(text.asText(), pattern.asText()) != e.negated;
     }
 
     Truth inList(const Expression& e) const {
-        const Value tested = value(*e.operands[0]);
+        Value heldTested;
+        Value heldMember;
+        const Value& tested = compared(*e.operands[0], heldTested);
         if (tested.isNull())
             return {};
         bool unknown = false;
         for (std::size_t i = 1; i < e.operands.size(); ++i) {
-            const Value member = value(*e.operands[i]);
+            const Value& member = compared(*e.operands[i], heldMember);
             if (member.isNull())
                 unknown = true;
             else if (located(*e.operands[i], [&] { return compareValues(tested, member); }) == 0)

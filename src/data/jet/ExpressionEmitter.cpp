@@ -121,7 +121,7 @@ std::string Emitter::value(const Expression& expression) {
     case Kind::Aggregate:
         return aggregate(expression);
     case Kind::ScalarQuery:
-        return "(" + subquery(*expression.query) + ")";
+        return scalarQuery(*expression.query);
     default:
         return "(- " + condition(expression) + ")"; // the library's true is 1
     }

@@ -27,6 +27,13 @@ void keepFirst(sqlite3_context* context, int, sqlite3_value** arguments) {
     kept->any = true;
 }
 
+void keepOnly(sqlite3_context* context, int count, sqlite3_value** arguments) {
+    const auto* kept = static_cast<const Kept*>(sqlite3_aggregate_context(context, sizeof(Kept)));
+    if (kept && kept->any)
+        return giveError(context, 3354, "At most one row can be returned by this subquery");
+    keepFirst(context, count, arguments);
+}
+
 void keepLast(sqlite3_context* context, int, sqlite3_value** arguments) {
     auto* kept = static_cast<Kept*>(sqlite3_aggregate_context(context, sizeof(Kept)));
     if (!kept)
@@ -85,6 +92,7 @@ struct Aggregate {
 constexpr std::array aggregates{
     Aggregate{"jet_first", keepFirst, giveKept},
     Aggregate{"jet_last", keepLast, giveKept},
+    Aggregate{"jet_only", keepOnly, giveKept},
     Aggregate{"jet_stdev", addToSpread, giveSpread<1, true>},
     Aggregate{"jet_stdevp", addToSpread, giveSpread<0, true>},
     Aggregate{"jet_var", addToSpread, giveSpread<1, false>},

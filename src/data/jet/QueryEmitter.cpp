@@ -72,6 +72,16 @@ std::string Emitter::subquery(const Query& query) {
     return queryText(query, form);
 }
 
+/// A query in the place of a value; the library would take the first of several rows without a word.
+std::string Emitter::scalarQuery(const Query& query) {
+    const Select& select = query.selects.front();
+    const bool oneRow = query.selects.size() == 1 && select.grouped && select.groupBy.empty();
+    if (oneRow)
+        return "(" + subquery(query) + ")";
+    return "(SELECT jet_only(" + quoteIdentifier(query.outputs().front().column.name) + ") FROM (" + subquery(query) +
+           "))";
+}
+
 std::string Emitter::queryText(const Query& query, Form form) {
     if (query.selects.size() == 1)
         return select(query.selects.front(), form);
