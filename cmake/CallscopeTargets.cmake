@@ -8,6 +8,11 @@ target_compile_options(
             $<$<AND:$<BOOL:${CALLSCOPE_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:GNU,Clang>>:-Werror>
             $<$<AND:$<BOOL:${CALLSCOPE_WARNINGS_AS_ERRORS}>,$<CXX_COMPILER_ID:MSVC>>:/WX>)
 
+# GCC 12 sees overlapping copies in every "text" + std::string at -O3.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  target_compile_options(callscope_warnings INTERFACE -Wno-restrict)
+endif()
+
 if(CALLSCOPE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
