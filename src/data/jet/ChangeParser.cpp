@@ -20,6 +20,8 @@ Insert StatementParser::insert() {
     tokens_.expectWord("INSERT", insertError);
     tokens_.expectWord("INTO", insertError);
     result.table = tableName(insertError);
+    if (const std::string path = optionalPath(); !path.empty())
+        result.table.path = path;
     if (tokens_.isSymbol("(") && !tokens_.isWord("SELECT", 1)) {
         tokens_.take();
         do {
@@ -50,6 +52,7 @@ Update StatementParser::update() {
     result.position = tokens_.peek().position;
     tokens_.expectWord("UPDATE", updateError);
     result.from = fromList();
+    externalFile(result.from);
     tokens_.expectWord("SET", updateError);
     do {
         Update::Assignment assignment;
@@ -75,6 +78,7 @@ Delete StatementParser::deletion() {
     }
     tokens_.expectWord("FROM", deleteError);
     result.from = fromList();
+    externalFile(result.from);
     result.where = optionalWhere();
     return result;
 }

@@ -45,7 +45,8 @@ private:
     std::string select(const Select& select, const Form& form);
     std::string topByOrder(const Select& select, const Form& form);
     std::string outputList(const Select& select, const Form& form);
-    std::string clauses(const Select& select);
+    std::string clauses(const Select& select, const std::string& alsoWhere = {});
+    std::string topBound(const Select& select, const Form& form);
     std::string orderBy(const Select& select, const Form& form);
     std::string sortKey(const Expression& key);
     std::string fromItem(const FromItem& item);

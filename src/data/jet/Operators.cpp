@@ -23,16 +23,15 @@ Value finite(double number) {
     return number;
 }
 
+/// Whole as long as the result fits 64 bits.
 Value wholeArithmetic(Operator op, std::int64_t a, std::int64_t b) {
-    std::int64_t result = 0;
-    const bool overflow = op == Operator::Add        ? __builtin_add_overflow(a, b, &result)
-                          : op == Operator::Subtract ? __builtin_sub_overflow(a, b, &result)
-                                                     : __builtin_mul_overflow(a, b, &result);
-    if (!overflow)
-        return result;
     const auto x = static_cast<double>(a);
     const auto y = static_cast<double>(b);
-    return op == Operator::Add ? x + y : (op == Operator::Subtract ? x - y : x * y);
+    const double result = op == Operator::Add ? x + y : (op == Operator::Subtract ? x - y : x * y);
+    constexpr double safe = 9.2e18; // further from 2^63 than rounding reaches
+    if (std::fabs(result) > safe)
+        return result;
+    return op == Operator::Add ? a + b : (op == Operator::Subtract ? a - b : a * b);
 }
 
 /// Add, Subtract and Multiply.

@@ -14,30 +14,41 @@ ExpressionPtr parseExpression(std::string_view text) {
     return StatementParser(lex(text)).wholeExpression();
 }
 
+/// The statement by its first word, with the number for words that cannot stand behind it.
+Statement StatementParser::byFirstWord(long& error) {
+    if (tokens_.isWord("SELECT") || tokens_.isSymbol("(")) {
+        error = 3141;
+        return std::move(*query());
+    }
+    if (tokens_.isWord("INSERT")) {
+        error = 3134;
+        return insert();
+    }
+    if (tokens_.isWord("UPDATE")) {
+        error = 3144;
+        return update();
+    }
+    if (tokens_.isWord("DELETE")) {
+        error = 3128;
+        return deletion();
+    }
+    if (tokens_.isWord("CREATE"))
+        return create();
+    if (tokens_.isWord("DROP"))
+        return drop();
+    if (tokens_.isWord("ALTER"))
+        return alter();
+    throw DatabaseError(3129, "Invalid SQL statement; expected SELECT, INSERT, UPDATE, DELETE, CREATE, DROP or ALTER",
+                        tokens_.peek().position);
+}
+
 Statement StatementParser::statement() {
-    Statement result;
-    if (tokens_.isWord("SELECT") || tokens_.isSymbol("("))
-        result = std::move(*query());
-    else if (tokens_.isWord("INSERT"))
-        result = insert();
-    else if (tokens_.isWord("UPDATE"))
-        result = update();
-    else if (tokens_.isWord("DELETE"))
-        result = deletion();
-    else if (tokens_.isWord("CREATE"))
-        result = create();
-    else if (tokens_.isWord("DROP"))
-        result = drop();
-    else if (tokens_.isWord("ALTER"))
-        result = alter();
-    else
-        throw DatabaseError(3129,
-                            "Invalid SQL statement; expected SELECT, INSERT, UPDATE, DELETE, CREATE, DROP or ALTER",
-                            tokens_.peek().position);
+    long error = 3000;
+    Statement result = byFirstWord(error);
     if (tokens_.acceptSymbol(";") && !tokens_.atEnd())
         throw DatabaseError(3142, "Characters found behind the end of the statement", tokens_.peek().position);
     if (!tokens_.atEnd())
-        tokens_.fail(3000);
+        tokens_.fail(error);
     return result;
 }
 

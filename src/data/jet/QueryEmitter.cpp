@@ -134,7 +134,7 @@ std::string Emitter::outputList(const Select& select, const Form& form) {
     return list;
 }
 
-std::string Emitter::clauses(const Select& select) {
+std::string Emitter::clauses(const Select& select, const std::string& alsoWhere) {
     std::string sql;
     if (!select.from.empty()) {
         const bool outside = std::exchange(needsRowids_, false);
@@ -143,6 +143,8 @@ std::string Emitter::clauses(const Select& select) {
     }
     if (select.where)
         sql += " WHERE " + condition(*select.where);
+    if (!alsoWhere.empty())
+        sql += (select.where ? " AND " : " WHERE ") + alsoWhere;
     for (std::size_t i = 0; i < select.groupBy.size(); ++i) {
         const Expression& key = *select.groupBy[i];
         sql += (i == 0 ? " GROUP BY " : ", ") + sortKey(key);
@@ -172,6 +174,22 @@ std::string Emitter::orderBy(const Select& select, const Form& form) {
         sql += term.descending ? " DESC" : "";
     }
     return sql;
+}
+
+/// A condition that keeps all rows TOP n by order could show and few others: the first key is not behind that of the
+/// n-th row. Ranking then sorts few rows where the table is long. Empty where it would not pay or not hold.
+std::string Emitter::topBound(const Select& select, const Form& form) {
+    const bool oneTable = select.from.size() == 1 && select.from.front()->kind == FromItem::Kind::Table;
+    if (!oneTable || !form.order || form.order->empty() || select.distinct || select.grouped || select.topPercent)
+        return {};
+    const OrderTerm& first = form.order->front();
+    const Expression& key =
+        first.column >= 0 ? *select.outputs[static_cast<std::size_t>(first.column)].expression : *first.expression;
+    const std::string sorted = sortKey(key);
+    const std::string nth = "(SELECT " + sorted + clauses(select) + " ORDER BY " + sorted +
+                            (first.descending ? " DESC" : "") + " LIMIT 1 OFFSET " + std::to_string(*select.top - 1) +
+                            ")";
+    return "ifnull(" + sorted + (first.descending ? " >= " : " <= ") + nth + ", 1)";
 }
 
 /// TOP n keeps every row whose key equals that of the n-th, so rows are ranked before they are cut off.
@@ -204,7 +222,7 @@ std::string Emitter::topByOrder(const Select& select, const Form& form) {
         const bool textual = isText(key.bound.type) || isUnknown(key.bound.type);
         keys += (i == 0 ? "" : ", ") + inner(at) + (textual ? " COLLATE JET" : "") + (term.descending ? " DESC" : "");
     }
-    rows += clauses(select);
+    rows += clauses(select, topBound(select, form));
     const std::string over = keys.empty() ? "row_number() OVER ()" : "rank() OVER (ORDER BY " + keys + ")";
     const std::string limit = select.topPercent ? "(\"%count\" * " + std::to_string(*select.top) + " + 99) / 100"
                                                 : std::to_string(*select.top);

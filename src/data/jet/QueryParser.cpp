@@ -14,6 +14,15 @@ constexpr long orderError = 3138;
 /// The storage library joins no more tables and unites no more queries in one statement.
 constexpr int mostTables = 64;
 constexpr std::size_t mostUnited = 500;
+
+void setPath(FromItem& item, const std::string& path) {
+    if (item.kind == FromItem::Kind::Join) {
+        setPath(*item.left, path);
+        setPath(*item.right, path);
+    } else if (item.kind == FromItem::Kind::Table && item.table.path.empty()) {
+        item.table.path = path;
+    }
+}
 } // namespace
 
 std::unique_ptr<Query> StatementParser::query() {
@@ -59,10 +68,15 @@ Select StatementParser::select() {
     do {
         result.columns.push_back(selectColumn());
     } while (tokens_.acceptSymbol(","));
-    if (tokens_.acceptWord("INTO"))
+    if (tokens_.acceptWord("INTO")) {
         result.into = tableName(selectError);
-    if (tokens_.acceptWord("FROM"))
+        if (const std::string path = optionalPath(); !path.empty())
+            result.into->path = path;
+    }
+    if (tokens_.acceptWord("FROM")) {
         result.from = fromList();
+        externalFile(result.from);
+    }
     result.where = optionalWhere();
     if (tokens_.acceptWord("GROUP")) {
         tokens_.expectWord("BY", selectError);
@@ -176,7 +190,7 @@ std::unique_ptr<FromItem> StatementParser::fromPrimary() {
     item->position = tokens_.peek().position;
     if (!tokens_.acceptSymbol("(")) {
         item->table = tableName(fromError);
-        item->alias = optionalAlias(fromError);
+        item->alias = tableAlias();
         return item;
     }
     const Nesting nesting(*this);
@@ -184,12 +198,37 @@ std::unique_ptr<FromItem> StatementParser::fromPrimary() {
         item->kind = FromItem::Kind::Derived;
         item->query = query();
         tokens_.expectSymbol(")", fromError);
-        item->alias = optionalAlias(fromError);
+        item->alias = tableAlias();
         return item;
     }
     item = joined();
     tokens_.expectSymbol(")", fromError);
     return item;
+}
+
+/// Words of joins that the dialect does not have are no alias: FULL JOIN must not pass for JOIN.
+std::string StatementParser::tableAlias() {
+    for (const std::string_view word : {"FULL", "CROSS", "NATURAL", "OUTER"}) {
+        if (tokens_.isWord(word))
+            tokens_.fail(joinError);
+    }
+    return optionalAlias(fromError);
+}
+
+/// FROM … IN 'path': the tables of the clause that name no file of their own.
+void StatementParser::externalFile(std::vector<std::unique_ptr<FromItem>>& items) {
+    const std::string path = optionalPath();
+    if (path.empty())
+        return;
+    for (const auto& item : items)
+        setPath(*item, path);
+}
+
+std::string StatementParser::optionalPath() {
+    if (!tokens_.isWord("IN") || tokens_.peek(1).kind != Token::Kind::Text)
+        return {};
+    tokens_.take();
+    return tokens_.take().value.asText();
 }
 
 TableName StatementParser::tableName(long error) {

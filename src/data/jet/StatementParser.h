@@ -14,6 +14,8 @@ public:
     ExpressionPtr wholeExpression(); ///< up to the end of the text; faults are 3077
 
 private:
+    Statement byFirstWord(long& error);
+
     // ExpressionParser.cpp
     enum class Follower { Alias, NoName };
     /// A whole expression; faults where what stands behind it cannot follow one.
@@ -49,6 +51,9 @@ private:
     std::unique_ptr<FromItem> joined();
     std::unique_ptr<FromItem> fromPrimary();
     TableName tableName(long error);
+    std::string tableAlias();
+    std::string optionalPath();
+    void externalFile(std::vector<std::unique_ptr<FromItem>>& items);
 
     // ChangeParser.cpp
     Insert insert();
