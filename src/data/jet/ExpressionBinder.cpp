@@ -50,6 +50,24 @@ StaticType typeOfColumn(const ResultColumn& column) {
     return type;
 }
 
+/// Whether an expression names columns, but none of the query's own tables.
+bool namesOuterColumnsOnly(const Expression& expression, const Scope& scope) {
+    bool any = false;
+    bool own = false;
+    const auto look = [&](const auto& self, const Expression& at) -> void {
+        if (at.kind == Expression::Kind::Column) {
+            if (at.bound.target)
+                return self(self, *at.bound.target);
+            any = true;
+            own = own || std::find(scope.sources.begin(), scope.sources.end(), at.bound.source) != scope.sources.end();
+        }
+        for (const ExpressionPtr& operand : at.operands)
+            self(self, *operand);
+    };
+    look(look, expression);
+    return any && !own;
+}
+
 StaticType sumOf(const StaticType& argument) {
     StaticType type;
     if (argument.type == FieldType::Currency)
@@ -294,6 +312,8 @@ void Binder::aggregate(Expression& expression, Scope& scope, Clause clause) {
         throw;
     }
     inAggregate_ = false;
+    if (!countsRows && namesOuterColumnsOnly(*expression.operands.front(), scope))
+        throw DatabaseError(3095, "An aggregate must name a column of its own query", expression.position);
     StaticType& type = expression.bound.type;
     if (isCount) {
         type.type = FieldType::Long;
