@@ -54,17 +54,16 @@ bool isNull(sqlite3_value* value) {
 
 void like(sqlite3_context* context, int, sqlite3_value** arguments) {
     guarded(context, [&] {
-        if (isNull(arguments[0]) || isNull(arguments[1]))
+        if (isNull(arguments[0]))
             return;
-        const auto* pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 1));
-        if (!pattern) {
-            // The library keeps it only where the pattern is constant, and may let go of it at once.
-            auto made = std::make_unique<LikePattern>(textOf(arguments[1]));
-            sqlite3_result_int(context, made->matches(textOf(arguments[0])));
-            sqlite3_set_auxdata(context, 1, made.release(), [](void* kept) { delete static_cast<LikePattern*>(kept); });
+        if (const auto* pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 1)))
+            return sqlite3_result_int(context, pattern->matches(textOf(arguments[0])));
+        if (isNull(arguments[1]))
             return;
-        }
-        sqlite3_result_int(context, pattern->matches(textOf(arguments[0])));
+        // The library keeps it only where the pattern is constant, and may let go of it at once.
+        auto made = std::make_unique<LikePattern>(textOf(arguments[1]));
+        sqlite3_result_int(context, made->matches(textOf(arguments[0])));
+        sqlite3_set_auxdata(context, 1, made.release(), [](void* kept) { delete static_cast<LikePattern*>(kept); });
     });
 }
 

@@ -17,17 +17,47 @@ char32_t upperAscii(char32_t c) {
     return c >= 'a' && c <= 'z' ? c - 0x20 : c;
 }
 
+/// Whether the bytes from `text` on are `upper`, which is ASCII in capitals.
+bool sameWithoutCase(const char* text, const std::string& upper) {
+    for (std::size_t i = 0; i < upper.size(); ++i) {
+        const char c = text[i];
+        if ((c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c) != upper[i])
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 bool hasWildcards(std::string_view pattern) {
     return pattern.find_first_of("*?#[") != std::string_view::npos;
 }
 
-LikePattern::LikePattern(std::string_view pattern) : isPlain_(!hasWildcards(pattern)) {
-    if (isPlain_) {
+LikePattern::LikePattern(std::string_view pattern) {
+    readShape(pattern);
+    if (shape_ == Shape::General)
+        readElements(pattern);
+}
+
+void LikePattern::readShape(std::string_view pattern) {
+    if (!hasWildcards(pattern)) {
+        shape_ = Shape::Plain;
         plain_ = pattern;
         return;
     }
+    const bool before = pattern.starts_with('*');
+    const bool behind = pattern.size() > 1 && pattern.ends_with('*');
+    if (before)
+        pattern.remove_prefix(1);
+    if (behind)
+        pattern.remove_suffix(1);
+    if (pattern.empty() || hasWildcards(pattern) || !isAscii(pattern))
+        return;
+    plain_ = upperText(pattern);
+    shape_ = before && behind ? Shape::Inside : (before ? Shape::Suffix : Shape::Prefix);
+}
+
+void LikePattern::readElements(std::string_view pattern) {
     const std::string upper = upperText(pattern);
     std::string_view rest = upper;
     while (!rest.empty()) {
@@ -85,8 +115,26 @@ bool LikePattern::accepts(const Element& element, char32_t c) const {
 }
 
 bool LikePattern::matches(std::string_view text) const {
-    if (isPlain_)
+    switch (shape_) {
+    case Shape::Plain:
         return equalText(text, plain_);
+    case Shape::Prefix:
+        return text.size() >= plain_.size() && sameWithoutCase(text.data(), plain_);
+    case Shape::Suffix:
+        return text.size() >= plain_.size() && sameWithoutCase(text.data() + text.size() - plain_.size(), plain_);
+    case Shape::Inside:
+        for (std::size_t at = 0; at + plain_.size() <= text.size(); ++at) {
+            if (sameWithoutCase(text.data() + at, plain_))
+                return true;
+        }
+        return false;
+    case Shape::General:
+        break;
+    }
+    return matchesElements(text);
+}
+
+bool LikePattern::matchesElements(std::string_view text) const {
     std::string upper;
     const bool ascii = isAscii(text);
     if (!ascii) {

@@ -26,12 +26,18 @@ private:
         bool negated = false;
         std::vector<Range> ranges;
     };
+    /// The common shapes, which need no general matching: x, x*, *x and *x* with plain ASCII for x.
+    enum class Shape { General, Plain, Prefix, Suffix, Inside };
+
     bool accepts(const Element& element, char32_t c) const;
     void readSet(std::string_view& rest);
+    void readElements(std::string_view pattern);
+    void readShape(std::string_view pattern);
+    bool matchesElements(std::string_view text) const;
 
     std::vector<Element> elements_;
-    std::string plain_; ///< of a pattern without wildcards
-    bool isPlain_ = false;
+    Shape shape_ = Shape::General;
+    std::string plain_; ///< the x of a shape; in capitals unless the shape is Plain
 };
 
 /// `text Like pattern`.
