@@ -2,7 +2,9 @@
 
 #include "core/RuntimeError.h"
 #include "core/cPathControl.h"
+#include "data/engine/Database.h"
 #include "data/engine/Workspace.h"
+#include "data/schema/Vocabulary.h"
 #include "sample/installation/CustomerGroupsFile.h"
 #include "sample/installation/ReportLogo.h"
 #include "sample/installation/SystemMapFile.h"
@@ -100,6 +102,17 @@ void writeLogo(const std::string& path) {
         throw RuntimeError(pathFileAccessError, "Cannot write " + path);
 }
 
+/// The system map as it would be delivered: without the tables' rows that are the user's own, which an update adds to
+/// it.
+void writeDeliveredMap(Workspace& workspace, const std::string& systemMap, const std::string& delivered) {
+    fs::copy_file(toPath(systemMap), toPath(delivered));
+    const auto database = workspace.openDatabase(delivered, Workspace::Access::Shared, SystemMapConnect);
+    WorkspaceTransaction transaction(workspace);
+    for (const char* table : {"tblTVPopulationDensity", "tblPostCodePopulationDensity", "PGN_GROUPS", "PNT_GROUPS"})
+        database->execute(std::string("DELETE * FROM ") + table);
+    transaction.commit();
+}
+
 /// Makes the files in the workshop, moves them, and ties them together where they lie then.
 SampleReport make(const SampleOptions& options, const std::string& root, const Geography& geography) {
     SampleReport report = layOut(root);
@@ -122,7 +135,7 @@ SampleReport make(const SampleOptions& options, const std::string& root, const G
         if (file == &SampleReport::systemMapPath) {
             // A link wants its source in place.
             linkCustomerGroups(*workspace, made.systemMapPath, report.customerGroupsPath);
-            fs::copy_file(toPath(made.systemMapPath), toPath(made.deliveredMapPath));
+            writeDeliveredMap(*workspace, made.systemMapPath, made.deliveredMapPath);
         }
         fs::rename(toPath(made.*file), toPath(report.*file));
     }

@@ -10,6 +10,7 @@
 #include "data/project/SetPopulationFlags.h"
 #include "data/schema/Vocabulary.h"
 #include "data/types/DatabaseError.h"
+#include "report/ProjectPeriod.h"
 #include "report/ReportRun.h"
 
 #include <filesystem>
@@ -46,7 +47,7 @@ void openInstallation(const std::string& folder) {
     if (!std::filesystem::is_regular_file(toPath(paths)))
         throw RuntimeError(53, "There is no installation in '" + folder + "': '" + paths + "' is missing");
     gPaths = std::make_shared<cPathControl>(folder, folder);
-    if (const std::string system = joinPath(folder, "system"); std::filesystem::is_directory(toPath(system)))
+    if (const std::string system = portableSystemFolder(folder); !system.empty())
         gPaths->SystemDataPath = system;
     gsSystemDBPath = joinPath(gPaths->ApplicationDataPath, "ukmap.mdb");
     reopenSystemDatabase();
@@ -69,12 +70,12 @@ void openProject(const std::string& path) {
 }
 
 ReportParameters wholeProject() {
-    ReportParameters parameters;
-    const auto period = projectDatabase().openRecordset("SELECT SBSStartDate, SBSEndDate FROM TblCallSummary1");
-    if (period->EOF_())
+    const auto period = projectPeriod();
+    if (!period)
         throw RuntimeError(3021, "'" + gsProjectPath + "' does not tell its period: TblCallSummary1 has no row");
-    parameters.DTStart = period->value(0).asDate();
-    parameters.DTEnd = period->value(1).asDate();
+    ReportParameters parameters;
+    parameters.DTStart = period->start;
+    parameters.DTEnd = period->end;
     return parameters;
 }
 
