@@ -33,7 +33,8 @@ const BoundaryReport& reportOf(long boundary) {
         if (report.boundary == boundary)
             return report;
     }
-    throw RuntimeError(5, "There are no figures for boundary " + std::to_string(boundary));
+    throw RuntimeError(5, "Calls can be counted by TV region only; boundary " + std::to_string(boundary) +
+                              " has no figures");
 }
 
 void buildSelection(const ReportParameters& parameters) {
