@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include <fstream>
 #include <iterator>
 
@@ -92,10 +94,18 @@ TEST(Installation, IsFoundThroughItsPathsFile) {
         EXPECT_TRUE(fs::is_directory(folder)) << folder;
 }
 
-TEST(Installation, DeliversTheMapThatIsInUse) {
+TEST(Installation, DeliversTheMapThatIsInUseWithoutTheUsersOwnRows) {
     const SampleReport& report = sharedInstallation().report;
-    EXPECT_EQ(contentsOf(report.deliveredMapPath, SystemMapConnect),
-              contentsOf(report.systemMapPath, SystemMapConnect));
+    const TemporaryFolder folder;
+    const std::string copy = folder.file("ukmap.mdb");
+    std::filesystem::copy_file(report.systemMapPath, copy);
+    {
+        const auto database = Workspace::create()->openDatabase(copy, Workspace::Access::Shared, SystemMapConnect);
+        EXPECT_GT(database->openRecordset("tblTVPopulationDensity")->RecordCount(), 0);
+        for (const char* table : {"tblTVPopulationDensity", "tblPostCodePopulationDensity", "PGN_GROUPS", "PNT_GROUPS"})
+            database->execute(std::string("DELETE * FROM ") + table);
+    }
+    EXPECT_TRUE(contentsOf(report.deliveredMapPath, SystemMapConnect) == contentsOf(copy, SystemMapConnect));
 }
 
 TEST(Installation, TemplateHasTheProjectTablesWithoutRows) {
