@@ -11,7 +11,6 @@
 #include "data/schema/Vocabulary.h"
 #include "data/types/DatabaseError.h"
 #include "report/ProjectPeriod.h"
-#include "report/ReportRun.h"
 
 #include <filesystem>
 
@@ -77,9 +76,4 @@ ReportParameters wholeProject() {
     parameters.DTStart = period->start;
     parameters.DTEnd = period->end;
     return parameters;
-}
-
-void countWholeProject(long boundary) {
-    SelectionSql.clear();
-    countCalls(boundary, mainTable(boundary));
 }

@@ -17,7 +17,3 @@ void openProject(const std::string& path);
 
 /// The parameters of a report over the whole project: its first and last day, all hours, no filter.
 ReportParameters wholeProject();
-
-/// Counts the whole project into the main table of a boundary (2: TV regions). Throws RuntimeError 5 for a boundary
-/// whose figures cannot be counted.
-void countWholeProject(long boundary);

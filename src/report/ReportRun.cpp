@@ -57,11 +57,11 @@ void buildSelection(const ReportParameters& parameters) {
 std::string mainTable(long boundary) {
     return std::string(reportOf(boundary).mainTable);
 }
-std::string selectedTable(long boundary) {
-    return std::string(reportOf(boundary).selectedTable);
-}
-void countCalls(long boundary, const std::string& table) {
-    reportOf(boundary).procedure(table, 1);
+
+void countWholeProject(long boundary) {
+    const BoundaryReport& report = reportOf(boundary);
+    SelectionSql.clear();
+    report.procedure(std::string(report.mainTable), 1);
 }
 
 ReportFigures runReport(long boundary, const ReportParameters& parameters) {
@@ -75,7 +75,7 @@ ReportFigures runReport(long boundary, const ReportParameters& parameters) {
     figures.filtered = FilterActive;
     figures.table = FilterActive ? report.selectedTable : report.mainTable;
     if (FilterActive)
-        countCalls(boundary, figures.table);
+        report.procedure(figures.table, 1);
     *currentTables.of(boundary) = figures.table;
     mapMaxima.resetForRun();
     ModData_MaxValues(figures.table, 1);

@@ -15,8 +15,8 @@ struct ReportFigures {
 /// counted or the selection holds a community group that is too large.
 ReportFigures runReport(long boundary, const ReportParameters& parameters);
 
-/// The main and the selected table of a boundary. Throw RuntimeError 5 for a boundary whose figures cannot be counted.
+/// Counts the whole project into the main table of a boundary. Throws RuntimeError 5 where its figures cannot be
+/// counted.
+void countWholeProject(long boundary);
+/// The main table of a boundary. Throws RuntimeError 5 where its figures cannot be counted.
 std::string mainTable(long boundary);
-std::string selectedTable(long boundary);
-/// Runs the boundary's statistics procedure on period 1 of a table, for the calls of SelectionSql.
-void countCalls(long boundary, const std::string& table);

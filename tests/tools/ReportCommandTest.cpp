@@ -65,9 +65,9 @@ TEST_F(ReportCommand, FillsTheTableThatAPlainGroupedQueryGives) {
                     "'Republic Of Ireland') ORDER BY TVRegion"),
               expected);
     EXPECT_GT(std::count(expected.begin(), expected.end(), '\n'), 12);
-    EXPECT_EQ(
-        query(folder->file("sample/app/ukmap.mdb"), "VtDrmkqpwzs", "SELECT Sum(TotalCalls1) FROM TblTV").substr(0, 4),
-        query(project(), "QzMarlKey", "SELECT Count(*) FROM TblTeleItem").substr(0, 4));
+    // Every call is in one row or another, the side panels included.
+    EXPECT_EQ(query(folder->file("sample/app/ukmap.mdb"), "VtDrmkqpwzs", "SELECT Sum(TotalCalls1) AS Calls FROM TblTV"),
+              "Calls\n20000\n");
     EXPECT_NE(fileContents(folder->file("tv.csv")).find("North Scotland,"), std::string::npos);
 }
 
