@@ -1,5 +1,6 @@
 #include "map/workbook/DataStatement.h"
 #include "data/types/Value.h"
+#include "map/Boundaries.h"
 
 namespace {
 
@@ -37,23 +38,6 @@ std::string costColumns(const DataView& view) {
            "Caller]";
 }
 
-std::string keyColumn(int boundary) {
-    switch (boundary) {
-    case 0:
-        return "Exchange";
-    case 1:
-        return "CSG";
-    case 2:
-        return "TVRegion";
-    case 3:
-        return "PostCodeDistrict";
-    case 5:
-        return "GroupName";
-    default:
-        return "";
-    }
-}
-
 std::string source(const DataView& view, const std::string& key) {
     if (!view.hasPopulation || (view.boundary != 2 && view.boundary != 3))
         return " FROM " + view.table;
@@ -65,9 +49,10 @@ std::string source(const DataView& view, const std::string& key) {
 } // namespace
 
 std::string dataStatement(const DataView& view) {
-    const std::string key = keyColumn(view.boundary);
-    if (key.empty())
+    const Boundary* boundary = findBoundary(view.boundary);
+    if (!boundary)
         return "";
+    const std::string key(boundary->keyColumn);
     const bool rates = isPopulationTable(view);
     const auto column = [&](const std::string& name) {
         return rates ? rate(name, view) : counted(name, view, view.boundary != 5);
