@@ -19,9 +19,13 @@ void Database::close() {
     impl_->close();
 }
 
-void Database::execute(std::string_view statement) {
+jet::Program Database::translate(std::string_view statement) const {
     impl_->file();
-    const jet::Program program = jet::translate(statement, *impl_);
+    return jet::translate(statement, *impl_);
+}
+
+void Database::execute(std::string_view statement) {
+    const jet::Program program = translate(statement);
     if (program.isQuery)
         throw DatabaseError(3065, "A query that shows rows cannot be executed; open it as a recordset");
     impl_->run(program);
@@ -32,16 +36,14 @@ long Database::recordsAffected() const {
 }
 
 std::shared_ptr<Recordset> Database::openRecordset(std::string_view statementOrTable) {
-    impl_->file();
-    jet::Program program = jet::translate(statementOrTable, *impl_);
+    jet::Program program = translate(statementOrTable);
     if (!program.isQuery)
         throw DatabaseError(3219, "A statement that changes data shows no rows; execute it");
     return open(std::move(program));
 }
 
 std::shared_ptr<Recordset> Database::run(std::string_view statement) {
-    impl_->file();
-    jet::Program program = jet::translate(statement, *impl_);
+    jet::Program program = translate(statement);
     if (program.isQuery)
         return open(std::move(program));
     impl_->run(program);

@@ -39,6 +39,9 @@ public:
     /// Runs a statement of either kind: the rows of a query, or null after one that changes data.
     std::shared_ptr<Recordset> run(std::string_view statement);
 
+    /// What a statement becomes for the storage library; runs nothing. Throws as execute().
+    jet::Program translate(std::string_view statement) const;
+
     /// The tables and links of the file. Valid as long as the handle.
     TableDefs& tableDefs();
     /// A new table definition, to be filled and appended to tableDefs().
