@@ -1,7 +1,7 @@
 #include "data/jet/Parser.h"
 #include "data/types/DatabaseError.h"
 #include "tests/data/jet/JetFixture.h"
-#include "tests/data/jet/SqlCases.h"
+#include "tests/support/SqlCases.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/data/jet/SqlCases.h"
+#include "tests/support/SqlCases.h"
 #include "data/types/DatabaseError.h"
 #include "tests/data/jet/JetFixture.h"
 
