@@ -1,6 +1,7 @@
 #include "tests/support/SqlCases.h"
 #include "data/types/DatabaseError.h"
 #include "tests/data/jet/JetFixture.h"
+#include "tests/support/ShownValue.h"
 
 #include <gtest/gtest.h>
 
@@ -10,22 +11,10 @@ namespace {
 
 const std::string folder = CALLSCOPE_SQL_CASES;
 
-std::string shown(const Value& value) {
-    if (value.isNull())
-        return "null";
-    const std::string text = value.asText();
-    const bool quoted = value.isText() && (text.empty() || text.front() == ' ' || text.back() == ' ');
-    return quoted ? '"' + text + '"' : text;
-}
-
 std::vector<std::string> shownRows(const JetFixture::Result& result) {
     std::vector<std::string> lines;
-    for (const auto& row : result.rows) {
-        std::string line;
-        for (std::size_t i = 0; i < row.size(); ++i)
-            line += (i == 0 ? "" : " | ") + shown(row[i]);
-        lines.push_back(line);
-    }
+    for (const auto& row : result.rows)
+        lines.push_back(shownRow(row));
     return lines;
 }
 
@@ -105,10 +94,7 @@ TEST_P(SqlCases, holds) {
 }
 
 std::string testName(const testing::TestParamInfo<SqlCase>& info) {
-    std::string name = info.param.file + "_" + std::to_string(info.index) + "_" + info.param.name;
-    std::replace_if(
-        name.begin(), name.end(), [](unsigned char c) { return c >= 0x80 || !std::isalnum(c); }, '_');
-    return name;
+    return sqlCaseTestName(info.param, info.index);
 }
 
 INSTANTIATE_TEST_SUITE_P(Text, SqlCases, testing::ValuesIn(readSqlCases(folder)), testName);

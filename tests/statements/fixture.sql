@@ -1,0 +1,1 @@
+-- The figures of the whole project, each table by one grouped statement.
