@@ -8,16 +8,20 @@
 
 namespace {
 
+/// A number too large for the type, as a damaged or foreign file may hold, is given as it lies there.
 Value numberOfType(double number, FieldType type) {
+    const auto fits = [number](double largest) { return number >= -largest && number <= largest; };
+    constexpr double largestInteger = 9.2e18;
+    constexpr double largestMoney = 9.2e14;
     switch (type) {
     case FieldType::Boolean:
         return Value(number != 0.0);
     case FieldType::Byte:
     case FieldType::Integer:
     case FieldType::Long:
-        return Value(number).asInteger();
+        return fits(largestInteger) ? Value(Value(number).asInteger()) : Value(number);
     case FieldType::Currency:
-        return Money::fromDouble(number);
+        return fits(largestMoney) ? Value(Money::fromDouble(number)) : Value(number);
     case FieldType::Date:
         return Date{number};
     default:
