@@ -155,6 +155,7 @@ void Recordset::Delete() {
     impl_->cells.erase(first, first + impl_->columns());
     impl_->rowids.erase(impl_->rowids.begin() + static_cast<std::ptrdiff_t>(row));
     --impl_->rows;
+    impl_->forgetKeys();
     impl_->editing = Impl::Editing::None;
     impl_->deleted = true;
 }

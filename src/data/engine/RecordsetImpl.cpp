@@ -4,6 +4,8 @@
 #include "data/jet/Search.h"
 #include "data/types/DatabaseError.h"
 
+#include <algorithm>
+
 Recordset::Impl::Impl(std::shared_ptr<AttachedFile> attachedFile, jet::Program translated)
     : file(std::move(attachedFile)), program(std::move(translated)) {}
 
@@ -29,6 +31,7 @@ void Recordset::Impl::query() {
     noMatch = false;
     deleted = false;
     editing = Editing::None;
+    forgetKeys();
 }
 
 void Recordset::Impl::requireOpen() const {
@@ -78,17 +81,49 @@ const Field& Recordset::Impl::tableField(int column) const {
 }
 
 void Recordset::Impl::search(std::string_view expression, long from) {
-    const jet::Search search(expression, [this](std::string_view name) { return find(name); });
+    from = std::max(from, 0L);
+    const auto wanted = KeySearch::recognise(expression);
+    const KeyIndex* keys = wanted ? keysOf(find(wanted->field)) : nullptr;
+    const long found = keys ? keys->find(wanted->key, from) : searchByTest(expression, from);
     editing = Editing::None;
-    for (long row = std::max(from, 0L); row < rows; ++row) {
-        if (search.matches([this, row](int column) -> const Value& { return cell(row, column); })) {
-            cursor = row;
-            deleted = false;
-            noMatch = false;
-            return;
-        }
+    noMatch = found < 0;
+    if (noMatch)
+        return;
+    cursor = found;
+    deleted = false;
+}
+
+const KeyIndex* Recordset::Impl::keysOf(int column) {
+    if (column < 0)
+        return nullptr;
+    const auto type = program.columns[static_cast<std::size_t>(column)].type;
+    if (!type || !isText(*type))
+        return nullptr;
+    auto [entry, isNew] = keys_.try_emplace(column);
+    std::optional<KeyIndex>& keys = entry->second;
+    if (isNew)
+        keys.emplace();
+    for (long row = 0; isNew && keys && row < rows; ++row) {
+        const Value& value = cell(row, column);
+        if (const auto* text = std::get_if<std::string>(&value.storage()))
+            keys->add(*text, row);
+        else if (!value.isNull())
+            keys.reset();
     }
-    noMatch = true;
+    return keys ? &*keys : nullptr;
+}
+
+long Recordset::Impl::searchByTest(std::string_view expression, long from) {
+    if (!test_ || testText_ != expression) {
+        test_.reset();
+        test_.emplace(expression, [this](std::string_view name) { return find(name); });
+        testText_ = expression;
+    }
+    for (long row = from; row < rows; ++row) {
+        if (test_->matches([this, row](int column) -> const Value& { return cell(row, column); }))
+            return row;
+    }
+    return -1;
 }
 
 void Recordset::Impl::writeExisting() {
@@ -111,8 +146,11 @@ void Recordset::Impl::writeExisting() {
     update.step();
     if (file->connection().changes() == 0)
         throw DatabaseError(3167, "The record has been deleted");
-    for (int column = 0; column < columns(); ++column)
+    for (int column = 0; column < columns(); ++column) {
         cells[static_cast<std::size_t>(cursor * columns() + column)] = buffer[static_cast<std::size_t>(column)];
+        if (touched[static_cast<std::size_t>(column)])
+            keys_.erase(column);
+    }
 }
 
 void Recordset::Impl::writeNew() {
@@ -135,6 +173,11 @@ void Recordset::Impl::writeNew() {
     }
     insert.step();
     rowids.push_back(file->connection().lastInsertRowid());
+    for (auto& [column, index] : keys_) {
+        const auto* text = std::get_if<std::string>(&buffer[static_cast<std::size_t>(column)].storage());
+        if (index && text)
+            index->add(*text, rows);
+    }
     for (Value& value : buffer)
         cells.push_back(std::move(value));
     ++rows;

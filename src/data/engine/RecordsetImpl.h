@@ -1,11 +1,16 @@
 #pragma once
 
 #include "data/engine/AttachedFile.h"
+#include "data/engine/KeySearch.h"
 #include "data/engine/Recordset.h"
 #include "data/jet/Program.h"
+#include "data/jet/Search.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 /// The rows of a recordset and where its cursor stands.
@@ -39,7 +44,22 @@ public:
     const Value& cell(long row, int column) const;
     /// The table's column behind a column of the rows; throws 3164 where it shows none.
     const Field& tableField(int column) const;
+    /// Goes to the first row from `from` on that the expression holds for.
     void search(std::string_view expression, long from);
+    /// After rows have moved: searches look at them anew.
+    void forgetKeys() { keys_.clear(); }
     void writeExisting();
     void writeNew();
+
+private:
+    /// Null where the column is no text or holds other values than texts.
+    const KeyIndex* keysOf(int column);
+    long searchByTest(std::string_view expression, long from);
+
+    /// Columns by their texts, made by the first search for a key and kept true by edits; nothing for a column that
+    /// holds other values.
+    std::map<int, std::optional<KeyIndex>> keys_;
+    /// The last search that was no search for a key; FindNext repeats the expression of FindFirst.
+    std::optional<jet::Search> test_;
+    std::string testText_;
 };
