@@ -8,7 +8,7 @@
 #include <string>
 
 /// The databases of a sample installation of 20,000 calls, open in the default workspace as the program has them after
-/// opening the project: linked to each other, and the main and selected statistics tables filled by fixture.sql.
+/// opening the project: linked to each other, and the statistics tables filled with the calls of the whole project.
 /// They are known as "project", "system", "groups" (CustomerGroups.mdb) and "delivered" (the newer map file).
 class SampleDatabases {
 public:

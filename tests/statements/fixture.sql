@@ -1,1 +1,0 @@
--- The figures of the whole project, each table by one grouped statement.
