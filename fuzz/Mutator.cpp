@@ -30,20 +30,45 @@ std::size_t endOfWord(const std::string& text, std::size_t at) {
     return std::max(end, at + 1);
 }
 
-/// Puts one word in the place of another, so that most of what results can still be read.
-void moveWord(std::string& text, std::mt19937_64& random) {
-    std::vector<std::pair<std::size_t, std::size_t>> words; // where they begin and how long they are
+struct Word {
+    std::size_t at;
+    std::size_t length;
+    char kind; ///< 'a' a word or name, '0' a number, '\'' a literal, or the byte itself
+};
+
+std::vector<Word> wordsOf(const std::string& text) {
+    std::vector<Word> words;
     for (std::size_t at = 0; at < text.size();) {
         const std::size_t end = endOfWord(text, at);
-        if (text[at] != ' ')
-            words.emplace_back(at, end - at);
+        const char first = text[at];
+        char kind = first;
+        if (isWordByte(first) || first == '[')
+            kind = first >= '0' && first <= '9' ? '0' : 'a';
+        else if (first == '#' || first == '"')
+            kind = '\'';
+        if (first != ' ' && first != '\n')
+            words.push_back({at, end - at, kind});
         at = end;
     }
-    if (words.empty())
+    return words;
+}
+
+/// Puts a word of `source` in the place of one of the text, mostly of the same kind, so that much of what results can
+/// still be read.
+void moveWord(std::string& text, const std::string& source, std::mt19937_64& random) {
+    const std::vector<Word> from = wordsOf(source);
+    const std::vector<Word> to = wordsOf(text);
+    if (from.empty() || to.empty())
         return;
-    const auto from = words[below(words.size(), random)];
-    const auto to = words[below(words.size(), random)];
-    text.replace(to.first, to.second, text.substr(from.first, from.second));
+    const Word place = to[below(to.size(), random)];
+    for (int tries = 0; tries < 20; ++tries) {
+        const Word word = from[below(from.size(), random)];
+        if (word.kind == place.kind || tries == 19) {
+            const std::string moved = source.substr(word.at, word.length);
+            text.replace(place.at, place.length, moved);
+            return;
+        }
+    }
 }
 
 } // namespace
@@ -86,6 +111,11 @@ void Mutator::changeBytes(std::string& input, std::mt19937_64& random) const {
 }
 
 void Mutator::change(std::string& input, std::mt19937_64& random) const {
+    if (isText(input) && !tokens_.empty() && below(2, random) == 0) {
+        const bool own = inputs_.empty() || below(2, random) == 0;
+        moveWord(input, own ? std::string(input) : inputs_[below(inputs_.size(), random)], random);
+        return;
+    }
     const std::size_t at = below(input.size() + 1, random);
     switch (below(8, random)) {
     case 0:
@@ -95,8 +125,6 @@ void Mutator::change(std::string& input, std::mt19937_64& random) const {
     case 2:
         if (!tokens_.empty())
             input.insert(at, tokens_[below(tokens_.size(), random)]);
-        else if (!input.empty())
-            changeBytes(input, random);
         break;
     case 3:
         input.insert(at, input.substr(below(input.size() + 1, random), below(40, random)));
@@ -108,15 +136,11 @@ void Mutator::change(std::string& input, std::mt19937_64& random) const {
         }
         break;
     case 5:
-        if (below(8, random) == 0)
+        if (below(4, random) == 0)
             input.resize(at);
-        else if (isText(input))
-            moveWord(input, random);
         break;
     default:
-        if (isText(input) && below(2, random) == 0)
-            moveWord(input, random);
-        else if (!input.empty())
+        if (!input.empty())
             changeBytes(input, random);
     }
 }

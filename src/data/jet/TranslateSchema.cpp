@@ -40,12 +40,22 @@ std::string createTableText(const Table& table) {
     return "CREATE TABLE " + qualifiedName(table) + " (" + columns + ")";
 }
 
+/// `table` is without the column. Its counter is its key, so that it can have one only.
+void checkOneCounter(const Table& table, const ColumnDefinition& column) {
+    const bool another = std::any_of(table.columns.begin(), table.columns.end(), [&](const Field& field) {
+        return field.counter && !equalText(field.name, column.field.name);
+    });
+    if (column.field.counter && another)
+        throw DatabaseError(3292, "Table '" + table.name + "' has a counter already", column.position);
+}
+
 void checkNewColumn(const Table& table, const ColumnDefinition& column) {
     const bool exists = std::any_of(table.columns.begin(), table.columns.end(),
                                     [&](const Field& field) { return equalText(field.name, column.field.name); });
     if (exists)
         throw DatabaseError(3380, "Field '" + column.field.name + "' already exists in table '" + table.name + "'",
                             column.position);
+    checkOneCounter(table, column);
 }
 
 /// The keys that stand behind single columns, as indexes of their own.
@@ -133,6 +143,7 @@ void alterColumns(Program& program, const Table& table, const AlterTable& alter,
         values.push_back(quoteIdentifier(field.name));
     for (const ColumnDefinition& column : alter.columns) {
         const std::size_t at = columnIndex(table, column.field.name, column.position, 3381);
+        checkOneCounter(altered, column);
         const Field& old = table.columns[at];
         StaticType type;
         type.type = old.type;
