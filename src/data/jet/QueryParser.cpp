@@ -124,8 +124,18 @@ SelectColumn StatementParser::selectColumn() {
 }
 
 std::string StatementParser::optionalAlias(long error) {
-    if (tokens_.acceptWord("AS"))
-        return tokens_.expectName(error);
+    if (tokens_.acceptWord("AS")) {
+        // Behind AS a name may begin with digits without brackets: AS 1141Code.
+        const Token& digits = tokens_.peek();
+        const Token& rest = tokens_.peek(1);
+        if (digits.kind != Token::Kind::Number || rest.kind != Token::Kind::Word ||
+            digits.position + digits.length != rest.position)
+            return tokens_.expectName(error);
+        const std::string name = digits.text + rest.text;
+        tokens_.take();
+        tokens_.take();
+        return name;
+    }
     return tokens_.isName() ? tokens_.take().text : std::string();
 }
 
