@@ -1,6 +1,7 @@
 #include "data/engine/DatabaseImpl.h"
 
 #include "core/cPathControl.h"
+#include "data/engine/DefinitionCheck.h"
 #include "data/engine/WorkspaceImpl.h"
 #include "data/types/DatabaseError.h"
 #include "data/types/Value.h"
@@ -159,19 +160,17 @@ void Database::Impl::create(const TableDef& definition) {
     const std::string key = foldText(definition.name);
     if (file().tables().contains(key) || file().links().contains(key))
         throw DatabaseError(3010, "Table '" + definition.name + "' already exists");
-    if (isSystemTable(definition.name) || key.empty())
-        throw DatabaseError(3125, "'" + definition.name + "' is not a valid name for a table");
     if (definition.isAttached()) {
+        checkTableName(definition.name);
         const AttachedFile::Link link{definition.name, definition.sourceTableName, definition.connect};
         followLink(file(), link, 0); // a link that leads nowhere is refused
         file().addLink(link);
         return;
     }
-    if (definition.fields.empty())
-        throw DatabaseError(3264, "Table '" + definition.name + "' has no fields");
-    std::string sql = "CREATE TABLE " + file().schema() + "." + quoteIdentifier(definition.name) + " (";
-    for (std::size_t i = 0; i < definition.fields.size(); ++i)
-        sql += (i == 0 ? "" : ", ") + columnDefinition(definition.fields[i]);
+    const TableDef checked = checkedDefinition(definition);
+    std::string sql = "CREATE TABLE " + file().schema() + "." + quoteIdentifier(checked.name) + " (";
+    for (std::size_t i = 0; i < checked.fields.size(); ++i)
+        sql += (i == 0 ? "" : ", ") + columnDefinition(checked.fields[i]);
     file().connection().execute(sql + ")");
     file().invalidate();
 }
@@ -200,7 +199,7 @@ void Database::Impl::addField(const std::string& name, const Field& field) {
             throw DatabaseError(3191, "Field '" + field.name + "' already exists in table '" + name + "'");
     }
     file().connection().execute("ALTER TABLE " + table->schema + "." + quoteIdentifier(table->name) + " ADD COLUMN " +
-                                columnDefinition(field));
+                                columnDefinition(checkedField(field)));
     file().invalidate();
 }
 

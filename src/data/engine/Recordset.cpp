@@ -144,25 +144,12 @@ void Recordset::CancelUpdate() {
 void Recordset::Delete() {
     impl_->requireRow();
     impl_->requireEditable();
-    const jet::Table& table = *impl_->program.updatable;
-    const auto row = static_cast<std::size_t>(impl_->cursor);
-    sqlite::Statement remove(impl_->file->connection(),
-                             "DELETE FROM " + table.schema + "." + quoteIdentifier(table.name) + " WHERE rowid = ?");
-    remove.bind(1, impl_->rowids[row]);
-    remove.step();
-    const auto first =
-        impl_->cells.begin() + static_cast<std::ptrdiff_t>(row * static_cast<std::size_t>(impl_->columns()));
-    impl_->cells.erase(first, first + impl_->columns());
-    impl_->rowids.erase(impl_->rowids.begin() + static_cast<std::ptrdiff_t>(row));
-    --impl_->rows;
-    impl_->forgetKeys();
-    impl_->editing = Impl::Editing::None;
-    impl_->deleted = true;
+    impl_->removeRow();
 }
 
 void Recordset::Requery() {
     impl_->requireOpen();
-    impl_->query();
+    impl_->requery();
 }
 void Recordset::Close() {
     impl_->requireOpen();

@@ -43,10 +43,14 @@ public:
     void AddNew();
     void set(int position, Value value);
     void set(std::string_view field, Value value);
-    /// Writes the edited or new row. A new row is appended to the rows; the current row does not move to it.
+    /// Writes the edited or new row. A new row is appended to the rows; the current row does not move to it. Throws
+    /// 3167 where the row has been deleted meanwhile, 3022, 3314 and 3315 where the table refuses it; the edit then
+    /// stays open for another try.
     void Update();
     void CancelUpdate();
     void Delete();
+    /// Reads the rows anew; the cursor goes to the first. Throws 3078 where their table has been dropped, and leaves
+    /// the rows as they were.
     void Requery();
     void Close();
 

@@ -1,6 +1,7 @@
 #include "data/engine/RecordsetImpl.h"
 
 #include "data/engine/RowValue.h"
+#include "data/jet/Emitter.h"
 #include "data/jet/Search.h"
 #include "data/types/DatabaseError.h"
 
@@ -31,7 +32,7 @@ void Recordset::Impl::query() {
     noMatch = false;
     deleted = false;
     editing = Editing::None;
-    forgetKeys();
+    keys_.clear();
 }
 
 void Recordset::Impl::requireOpen() const {
@@ -126,23 +127,49 @@ long Recordset::Impl::searchByTest(std::string_view expression, long from) {
     return -1;
 }
 
-void Recordset::Impl::writeExisting() {
-    const jet::Table& table = *program.updatable;
-    std::string assignments;
+void Recordset::Impl::requery() {
+    try {
+        query();
+    } catch (const DatabaseError& error) {
+        if (error.number() != sqlite::UnclassifiedFault)
+            throw;
+        throw DatabaseError(3078, "The rows can no longer be read: their table has been dropped or changed");
+    }
+}
+
+std::string Recordset::Impl::tableName() const {
+    return program.updatable->schema + "." + quoteIdentifier(program.updatable->name);
+}
+
+std::string Recordset::Impl::rowName() const {
+    return jet::rowidName(program.updatable->columns);
+}
+
+std::string Recordset::Impl::touchedColumns(std::string_view behind) const {
+    std::string list;
     for (int column = 0; column < columns(); ++column) {
         if (touched[static_cast<std::size_t>(column)])
-            assignments += (assignments.empty() ? "" : ", ") + quoteIdentifier(tableField(column).name) + " = ?";
+            list += (list.empty() ? "" : ", ") + quoteIdentifier(tableField(column).name) + std::string(behind);
     }
+    return list;
+}
+
+int Recordset::Impl::bindTouched(sqlite::Statement& statement) const {
+    int parameter = 1;
+    for (int column = 0; column < columns(); ++column) {
+        if (touched[static_cast<std::size_t>(column)])
+            bindValue(statement, parameter++, tableField(column), buffer[static_cast<std::size_t>(column)]);
+    }
+    return parameter;
+}
+
+void Recordset::Impl::writeExisting() {
+    const std::string assignments = touchedColumns(" = ?");
     if (assignments.empty())
         return;
-    sqlite::Statement update(file->connection(), "UPDATE " + table.schema + "." + quoteIdentifier(table.name) +
-                                                     " SET " + assignments + " WHERE rowid = ?");
-    int parameter = 0;
-    for (int column = 0; column < columns(); ++column) {
-        if (touched[static_cast<std::size_t>(column)])
-            bindValue(update, ++parameter, tableField(column), buffer[static_cast<std::size_t>(column)]);
-    }
-    update.bind(++parameter, rowids[static_cast<std::size_t>(cursor)]);
+    sqlite::Statement update(file->connection(),
+                             "UPDATE " + tableName() + " SET " + assignments + " WHERE " + rowName() + " = ?");
+    update.bind(bindTouched(update), rowids[static_cast<std::size_t>(cursor)]);
     update.step();
     if (file->connection().changes() == 0)
         throw DatabaseError(3167, "The record has been deleted");
@@ -154,25 +181,18 @@ void Recordset::Impl::writeExisting() {
 }
 
 void Recordset::Impl::writeNew() {
-    const jet::Table& table = *program.updatable;
-    std::string names;
+    const std::string names = touchedColumns("");
     std::string places;
-    for (int column = 0; column < columns(); ++column) {
-        if (!touched[static_cast<std::size_t>(column)])
-            continue;
-        names += (names.empty() ? "" : ", ") + quoteIdentifier(tableField(column).name);
-        places += places.empty() ? "?" : ", ?";
-    }
-    const std::string target = "INSERT INTO " + table.schema + "." + quoteIdentifier(table.name);
-    sqlite::Statement insert(file->connection(), names.empty() ? target + " DEFAULT VALUES"
-                                                               : target + " (" + names + ") VALUES (" + places + ")");
-    int parameter = 0;
-    for (int column = 0; column < columns(); ++column) {
-        if (touched[static_cast<std::size_t>(column)])
-            bindValue(insert, ++parameter, tableField(column), buffer[static_cast<std::size_t>(column)]);
-    }
+    for (const bool isSet : touched)
+        places += !isSet ? "" : places.empty() ? "?" : ", ?";
+    sqlite::Statement insert(file->connection(), "INSERT INTO " + tableName() +
+                                                     (names.empty() ? std::string(" DEFAULT VALUES")
+                                                                    : " (" + names + ") VALUES (" + places + ")"));
+    bindTouched(insert);
     insert.step();
-    rowids.push_back(file->connection().lastInsertRowid());
+    const std::int64_t rowid = file->connection().lastInsertRowid();
+    readDefaults(rowid);
+    rowids.push_back(rowid);
     for (auto& [column, index] : keys_) {
         const auto* text = std::get_if<std::string>(&buffer[static_cast<std::size_t>(column)].storage());
         if (index && text)
@@ -181,4 +201,44 @@ void Recordset::Impl::writeNew() {
     for (Value& value : buffer)
         cells.push_back(std::move(value));
     ++rows;
+}
+
+void Recordset::Impl::readDefaults(std::int64_t rowid) {
+    std::string list;
+    std::vector<int> read;
+    for (int column = 0; column < columns(); ++column) {
+        const auto at = static_cast<std::size_t>(column);
+        if (touched[at] || program.columns[at].sourceColumn.empty())
+            continue;
+        const Field& field = tableField(column);
+        if (!field.defaultValue && !field.counter && field.type != FieldType::Boolean)
+            continue;
+        list += (list.empty() ? "" : ", ") + quoteIdentifier(field.name);
+        read.push_back(column);
+    }
+    if (read.empty())
+        return;
+    sqlite::Statement row(file->connection(),
+                          "SELECT " + list + " FROM " + tableName() + " WHERE " + rowName() + " = ?");
+    row.bind(1, rowid);
+    if (!row.step())
+        return;
+    for (std::size_t i = 0; i < read.size(); ++i) {
+        const auto at = static_cast<std::size_t>(read[i]);
+        buffer[at] = readValue(row, static_cast<int>(i), program.columns[at]);
+    }
+}
+
+void Recordset::Impl::removeRow() {
+    const auto row = static_cast<std::size_t>(cursor);
+    sqlite::Statement remove(file->connection(), "DELETE FROM " + tableName() + " WHERE " + rowName() + " = ?");
+    remove.bind(1, rowids[row]);
+    remove.step();
+    const auto first = cells.begin() + static_cast<std::ptrdiff_t>(row * static_cast<std::size_t>(columns()));
+    cells.erase(first, first + columns());
+    rowids.erase(rowids.begin() + static_cast<std::ptrdiff_t>(row));
+    --rows;
+    keys_.clear();
+    editing = Editing::None;
+    deleted = true;
 }

@@ -46,12 +46,21 @@ public:
     const Field& tableField(int column) const;
     /// Goes to the first row from `from` on that the expression holds for.
     void search(std::string_view expression, long from);
-    /// After rows have moved: searches look at them anew.
-    void forgetKeys() { keys_.clear(); }
+    void requery();
     void writeExisting();
     void writeNew();
+    void removeRow();
 
 private:
+    /// "schema"."table" and the name of its row number; of editable rows.
+    std::string tableName() const;
+    std::string rowName() const;
+    /// The columns that the edit has set, as "name"<between> of each, joined by commas.
+    std::string touchedColumns(std::string_view behind) const;
+    /// Binds the values of those columns from parameter 1 on; the next free parameter.
+    int bindTouched(sqlite::Statement& statement) const;
+    /// What the table made of a new row: its defaults and numbers.
+    void readDefaults(std::int64_t rowid);
     /// Null where the column is no text or holds other values than texts.
     const KeyIndex* keysOf(int column);
     long searchByTest(std::string_view expression, long from);

@@ -13,6 +13,9 @@ struct sqlite3_stmt;
 /// are exceptions. One thread at a time.
 namespace sqlite {
 
+/// The number of a fault for which the dialect knows no better one, such as a table that went between two statements.
+constexpr long UnclassifiedFault = 3000;
+
 /// Throws DatabaseError for a result code of the library, with its words. `context` stands in front of them.
 [[noreturn]] void raise(sqlite3* connection, int code, std::string_view context = {});
 

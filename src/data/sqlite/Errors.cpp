@@ -48,7 +48,7 @@ Fault faultOf(int code, const std::string& words) {
     case SQLITE_TOOBIG:
         return {3035, "A value or statement is too long"};
     default:
-        return {3000, words};
+        return {UnclassifiedFault, words};
     }
 }
 

@@ -29,7 +29,7 @@ bool Statement::step() {
 }
 
 void Statement::reset() {
-    sqlite3_reset(handle_);
+    sqlite3_reset(handle_); // its code repeats that of the last step(), which has been thrown
 }
 
 namespace {

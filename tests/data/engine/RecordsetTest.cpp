@@ -5,8 +5,18 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace {
+
+Field field(const char* name, FieldType type, int size = 0) {
+    Field made;
+    made.name = name;
+    made.type = type;
+    made.size = size;
+    return made;
+}
 
 long faultOf(const std::function<void()>& action) {
     try {
@@ -128,6 +138,175 @@ TEST_F(Recordsets, AStatementThatFailsHalfwayChangesNothing) {
     EXPECT_EQ(database->openRecordset("SELECT * FROM TblTV WHERE TVRegion = 'Same'")->RecordCount(), 0);
     database->execute("DELETE * FROM TblTV WHERE TotalCalls1 > 1");
     EXPECT_EQ(database->recordsAffected(), 2);
+}
+
+TEST_F(Recordsets, SearchesForANameIgnoreCaseAndTrailingBlanksAndSeeEdits) {
+    database->execute("INSERT INTO TblTV VALUES ('london  ', 7, Null, Null, False)");
+    database->execute("INSERT INTO TblTV VALUES (Null, 8, Null, Null, False)");
+    const auto rows = database->openRecordset("SELECT * FROM TblTV ORDER BY TotalCalls1");
+    const auto positions = [&](const std::string& expression) {
+        std::vector<long> found;
+        for (rows->FindFirst(expression); !rows->NoMatch(); rows->FindNext(expression))
+            found.push_back(rows->AbsolutePosition());
+        return found;
+    };
+    using Positions = std::vector<long>;
+    for (const char* expression : {"TVRegion = 'LONDON'", "[tvregion]='London '", "UCASE(TVRegion) = 'LONDON'",
+                                   "TVRegion = \"london\"", "TVRegion Like 'l*'", "TVRegion = 'lon' & 'don'"})
+        EXPECT_EQ(positions(expression), (Positions{2, 4})) << expression;
+    EXPECT_EQ(positions("TVRegion = ''"), Positions{});
+
+    rows->FindFirst("TVRegion = 'Border'");
+    rows->Edit();
+    rows->set("TVRegion", "LONDON");
+    rows->Update();
+    EXPECT_EQ(positions("TVRegion = 'london'"), (Positions{1, 2, 4}));
+    rows->AddNew();
+    rows->set("TVRegion", "London");
+    rows->Update();
+    EXPECT_EQ(positions("TVRegion = 'london'"), (Positions{1, 2, 4, 5}));
+    rows->MoveFirst();
+    rows->Delete();
+    EXPECT_EQ(positions("TVRegion = 'london'"), (Positions{0, 1, 3, 4}));
+    database->execute("UPDATE TblTV SET TVRegion = 'Ulster' WHERE TotalCalls1 = 40");
+    rows->Requery();
+    EXPECT_EQ(positions("TVRegion = 'ulster'").size(), 1u);
+}
+
+TEST_F(Recordsets, ABadSearchNamesItsPlaceAndLeavesTheRow) {
+    const auto rows = database->openRecordset("TblTV");
+    rows->MoveNext();
+    const std::pair<const char*, long> bad[] = {{"TVRegion = 'KING'S LYNN'", 3077},
+                                                {"TVRegion = ", 3077},
+                                                {"Nothing = 'x'", 3070},
+                                                {"TVRegion = 'x' AND", 3077},
+                                                {"Count(*) > 1", 3077},
+                                                {"", 3077},
+                                                {"TVRegion = 5", 3464},
+                                                {"TotalCalls1 = 'x'", 3464}};
+    for (const auto& [expression, number] : bad) {
+        EXPECT_EQ(faultOf([&, text = expression] { rows->FindFirst(text); }), number) << expression;
+        EXPECT_EQ(rows->AbsolutePosition(), 1) << expression;
+    }
+}
+
+TEST_F(Recordsets, EditTheirRowThroughAliasesOrderAndCalculatedColumns) {
+    const auto rows = database->openRecordset(
+        "SELECT t.TVRegion AS Area, t.TotalCalls1, t.TotalCalls1 * 2 AS Twice FROM TblTV AS t WHERE t.TotalCalls1 > 1 "
+        "ORDER BY t.TotalCalls1 DESC");
+    ASSERT_EQ(rows->value("Area").asText(), "London");
+    rows->Edit();
+    EXPECT_EQ(faultOf([&] { rows->set("Twice", 1); }), 3164);
+    rows->set("Area", "LWT");
+    rows->Update();
+    EXPECT_EQ(database->openRecordset("SELECT * FROM TblTV WHERE TVRegion = 'LWT' AND TotalCalls1 = 40")->RecordCount(),
+              1);
+    for (const char* many : {"SELECT DISTINCT TVRegion FROM TblTV", "SELECT a.TVRegion FROM TblTV AS a, TblTV AS b",
+                             "SELECT TVRegion FROM TblTV UNION SELECT 'x' FROM TblTV", "SELECT 1 AS n"})
+        EXPECT_EQ(faultOf([&, query = many] { database->openRecordset(query)->Edit(); }), 3027) << many;
+}
+
+TEST_F(Recordsets, ShowWhatTheTableMakesOfANewRow) {
+    database->execute("CREATE TABLE Numbered (Id Counter PRIMARY KEY, Name Text(10) DEFAULT 'none', Ok YesNo, N Long)");
+    const auto rows = database->openRecordset("Numbered");
+    for (int i = 0; i < 2; ++i) {
+        rows->AddNew();
+        rows->set("N", i);
+        rows->Update();
+    }
+    rows->MoveLast();
+    EXPECT_EQ(rows->value("Id"), Value(2));
+    EXPECT_EQ(rows->value("Name"), Value("none"));
+    EXPECT_EQ(rows->value("Ok"), Value(false));
+    EXPECT_EQ(rows->RecordCount(), 2);
+}
+
+TEST_F(Recordsets, ARefusedRowStaysOpenForAnotherTry) {
+    TableDef definition = database->createTableDef("Keys");
+    definition.fields = {Field{"Code", FieldType::Text, 5, true, false, {}}, field("N", FieldType::Long)};
+    database->tableDefs().append(definition);
+    database->execute("CREATE UNIQUE INDEX Once ON Keys (Code)");
+    database->execute("INSERT INTO Keys VALUES ('a', 1)");
+    const auto rows = database->openRecordset("Keys");
+    rows->AddNew();
+    rows->set("N", 2);
+    EXPECT_EQ(faultOf([&] { rows->Update(); }), 3314);
+    rows->set("Code", "");
+    EXPECT_EQ(faultOf([&] { rows->Update(); }), 3315);
+    rows->set("Code", "A ");
+    EXPECT_EQ(faultOf([&] { rows->Update(); }), 3022);
+    rows->set("Code", "b");
+    rows->Update();
+    EXPECT_EQ(database->openRecordset("SELECT * FROM Keys WHERE Code = 'b' AND N = 2")->RecordCount(), 1);
+
+    rows->MoveFirst();
+    database->execute("DELETE * FROM Keys WHERE Code = 'a'");
+    rows->Edit();
+    rows->set("N", 3);
+    EXPECT_EQ(faultOf([&] { rows->Update(); }), 3167);
+    rows->CancelUpdate();
+    EXPECT_EQ(rows->value("N"), Value(1));
+}
+
+TEST_F(Recordsets, TablesWithColumnsNamedLikeTheLibrarysRowNumbers) {
+    database->execute("CREATE TABLE Odd (rowid Text(5), oid Long, N Long)");
+    database->execute("INSERT INTO Odd VALUES ('x', 7, 1)");
+    database->execute("INSERT INTO Odd VALUES ('y', 7, 2)");
+    const auto rows = database->openRecordset("Odd");
+    rows->FindFirst("rowid = 'y'");
+    rows->Edit();
+    rows->set("N", 3);
+    rows->Update();
+    rows->MoveFirst();
+    rows->Delete();
+    const auto left = database->openRecordset("Odd");
+    ASSERT_EQ(left->RecordCount(), 1);
+    EXPECT_EQ(left->value("N"), Value(3));
+}
+
+TEST_F(Recordsets, MovingAwayDropsAnEditAndRequeryReadsAnew) {
+    const auto rows = database->openRecordset("SELECT * FROM TblTV ORDER BY TVRegion");
+    rows->Edit();
+    rows->set("TVRegion", "x");
+    rows->MoveNext();
+    rows->MoveFirst();
+    EXPECT_EQ(rows->value("TVRegion").asText(), "Border");
+    database->execute("DELETE * FROM TblTV WHERE TVRegion = 'Border'");
+    rows->Requery();
+    EXPECT_EQ(rows->value("TVRegion").asText(), "London");
+    rows->MoveLast();
+    EXPECT_EQ(rows->RecordCount(), 2);
+    database->execute("DROP TABLE TblTV");
+    EXPECT_EQ(faultOf([&] { rows->Requery(); }), 3078);
+    EXPECT_EQ(rows->RecordCount(), 2);
+}
+
+TEST_F(Recordsets, OutliveOtherHandlesAndTheirOwn) {
+    auto other = workspace->openDatabase(folder.file("a.mdb"));
+    const auto rows = database->openRecordset("TblTV");
+    other->close();
+    database->close();
+    workspace.reset();
+    rows->MoveLast();
+    rows->Edit();
+    rows->set("TotalCalls1", 5);
+    rows->Update();
+    EXPECT_EQ(rows->value("TotalCalls1"), Value(5));
+}
+
+TEST_F(Recordsets, EmptyOnesHaveNoCurrentRowButTakeNewOnes) {
+    const auto rows = database->openRecordset("SELECT * FROM TblTV WHERE TotalCalls1 > 1000");
+    EXPECT_TRUE(rows->EOF_() && rows->BOF_());
+    for (const auto& move :
+         {&Recordset::MoveFirst, &Recordset::MoveLast, &Recordset::MoveNext, &Recordset::MovePrevious})
+        EXPECT_EQ(faultOf([&] { ((*rows).*move)(); }), 3021);
+    rows->FindFirst("TVRegion = 'London'");
+    EXPECT_TRUE(rows->NoMatch());
+    rows->AddNew();
+    rows->set("TVRegion", "Ulster");
+    EXPECT_EQ(rows->value("TVRegion"), Value("Ulster"));
+    rows->Update();
+    EXPECT_EQ(rows->RecordCount(), 1);
 }
 
 } // namespace

@@ -6,6 +6,14 @@
 
 namespace {
 
+Field field(const char* name, FieldType type, int size = 0) {
+    Field made;
+    made.name = name;
+    made.type = type;
+    made.size = size;
+    return made;
+}
+
 class TableDefinitions : public testing::Test {
 protected:
     TemporaryFolder folder;
@@ -60,6 +68,74 @@ TEST_F(TableDefinitions, HideWhatIsTheEngines) {
     EXPECT_THROW(database->tableDefs().append(own), DatabaseError);
     EXPECT_THROW(database->openRecordset("SELECT * FROM sqlite_master"), DatabaseError);
     EXPECT_THROW(database->openRecordset("MSysLinks"), DatabaseError);
+}
+
+TEST_F(TableDefinitions, WhatCannotBeMadeIsRefusedAndLeavesNothing) {
+    const Field plain = field("N", FieldType::Long);
+    struct Case {
+        const char* name;
+        std::string table;
+        std::vector<Field> fields;
+        long number;
+    };
+    const Case cases[] = {
+        {"no fields", "T", {}, 3264},
+        {"two of a name", "T", {plain, field("n", FieldType::Text)}, 3191},
+        {"too wide", "T", {field("A", FieldType::Text, 256)}, 3273},
+        {"a field without a name", "T", {field("", FieldType::Long)}, 3125},
+        {"a field with a point", "T", {field("a.b", FieldType::Long)}, 3125},
+        {"no name", "", {plain}, 3125},
+        {"a bracket", "T]", {plain}, 3125},
+        {"a long name", std::string(65, 'x'), {plain}, 3125},
+        {"a default of another kind", "T", {Field{"N", FieldType::Long, 0, false, true, "'x'"}}, 3421},
+        {"a default that ends the definition",
+         "T",
+         {Field{"N", FieldType::Long, 0, false, true, "0); DROP TABLE Other; --"}},
+         3421},
+    };
+    database->execute("CREATE TABLE Other (N Long)");
+    for (const Case& refused : cases) {
+        TableDef definition = database->createTableDef(refused.table);
+        definition.fields = refused.fields;
+        try {
+            database->tableDefs().append(definition);
+            ADD_FAILURE() << refused.name;
+        } catch (const DatabaseError& error) {
+            EXPECT_EQ(error.number(), refused.number) << refused.name << ": " << error.description();
+        }
+    }
+    EXPECT_EQ(database->tableDefs().count(), 1u);
+    EXPECT_THROW(database->tableDefs().appendField("Other", field("x", FieldType::Text, 300)), DatabaseError);
+}
+
+TEST_F(TableDefinitions, AreCopiedToAnotherFile) {
+    TableDef original = database->createTableDef("TblSettings");
+    original.fields = {Field{"BoundaryDate", FieldType::Date, 0, true, true, "0"},
+                       Field{"Name", FieldType::Text, 20, false, false, "\"none\""}, field("Note", FieldType::Text)};
+    database->tableDefs().append(original);
+    const auto other = workspace->createDatabase(folder.file("b.mdb"), "MS Access;PWD=b");
+    other->tableDefs().append(*database->tableDefs().find("TblSettings"));
+    other->execute("INSERT INTO TblSettings (Note) VALUES ('x')");
+    const auto row = other->openRecordset("TblSettings");
+    EXPECT_EQ(row->value("BoundaryDate"), Value(Date{0}));
+    EXPECT_EQ(row->value("Name"), Value("none"));
+    EXPECT_EQ(other->tableDefs().find("TblSettings")->findField("Note")->size, 255);
+    other->execute("SELECT * INTO Copy FROM TblSettings");
+    EXPECT_EQ(other->tableDefs().find("Copy")->fields.size(), 3u);
+}
+
+TEST_F(TableDefinitions, SeeTablesThatStatementsMakeAndDrop) {
+    TableDefs& tables = database->tableDefs();
+    database->execute("CREATE TABLE A (N Long)");
+    EXPECT_NE(tables.find("A"), nullptr);
+    const auto second = workspace->openDatabase(folder.file("a.mdb"));
+    second->execute("DROP TABLE A");
+    EXPECT_EQ(tables.find("A"), nullptr);
+    tables.refresh();
+    EXPECT_EQ(tables.count(), 0u);
+    EXPECT_THROW(tables.at(0), DatabaseError);
+    database->close();
+    EXPECT_THROW(tables.refresh(), DatabaseError);
 }
 
 } // namespace
