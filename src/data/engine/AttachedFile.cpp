@@ -11,6 +11,9 @@ constexpr std::string_view linkTable = "MSysLinks";
 /// At most this much of a file's pages is kept in memory.
 constexpr int cacheKibibytes = 262144;
 
+/// More files than a statement names.
+constexpr std::size_t mostHeld = 32;
+
 /// Puts the path in front of an error of the storage library and tells a wrong password from a foreign file.
 [[noreturn]] void refuse(const DatabaseError& error, const std::string& path, FileProbe::Kind kind) {
     switch (error.number()) {
@@ -148,6 +151,19 @@ jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
     return table;
 }
 
+void AttachedFile::hold(const std::shared_ptr<AttachedFile>& other) {
+    if (other.get() == this)
+        return;
+    std::erase(held_, other);
+    held_.push_back(other);
+    if (held_.size() > mostHeld)
+        held_.erase(held_.begin());
+}
+
+void AttachedFile::letGo(std::string_view path) {
+    std::erase_if(held_, [&](const auto& other) { return other->path() == path; });
+}
+
 void AttachedFile::addLink(const Link& link) {
     sqlite::Savepoint savepoint(*connection_);
     connection_->execute("CREATE TABLE IF NOT EXISTS " + schema_ +
@@ -165,5 +181,6 @@ void AttachedFile::removeLink(std::string_view name) {
     sqlite::Statement remove(*connection_, "DELETE FROM " + schema_ + ".MSysLinks WHERE Name = ?");
     remove.bind(1, name);
     remove.step();
+    held_.clear(); // other links open theirs again when they are used
     invalidate();
 }

@@ -49,8 +49,10 @@ public:
     /// Takes the file for this process alone; throws 3356 where another process has it open for use.
     void lockExclusively();
 
-    /// Files that links of this file have opened; held as long as this file is.
-    std::vector<std::shared_ptr<AttachedFile>> linkedFiles;
+    /// Keeps a file open that a link or a path in a statement has led to, until this one goes or has led to many
+    /// others since: a connection takes a limited number of files.
+    void hold(const std::shared_ptr<AttachedFile>& other);
+    void letGo(std::string_view path);
 
 private:
     void attach(Create create);
@@ -65,6 +67,7 @@ private:
     std::int64_t generation_ = 0;
     std::map<std::string, jet::Table> tables_;
     std::map<std::string, Link> links_;
+    std::vector<std::shared_ptr<AttachedFile>> held_; ///< the one used last at the end
 };
 
 /// Tables of the engine itself, which the dialect does not show.

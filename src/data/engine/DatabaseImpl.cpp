@@ -62,17 +62,15 @@ std::optional<jet::Table> Database::Impl::followLink(AttachedFile& from, const A
     const ConnectString connect = ConnectString::parse(link.connect);
     if (depth >= deepestLink)
         throw DatabaseError(3078, "The attached table '" + link.name + "' leads to itself");
-    auto& held = from.linkedFiles;
     std::shared_ptr<AttachedFile> target;
     try {
         target = workspace->impl().attach(connect.database, connect.password);
     } catch (const DatabaseError& error) {
-        std::erase_if(held, [&](const auto& other) { return other->path() == canonicalPath(connect.database); });
+        from.letGo(canonicalPath(connect.database));
         throw DatabaseError(error.number(),
                             "The attached table '" + link.name + "' cannot be reached: " + error.description());
     }
-    if (target.get() != &from && std::find(held.begin(), held.end(), target) == held.end())
-        held.push_back(target);
+    from.hold(target);
     auto table = findIn(*target, link.sourceTable, depth + 1);
     if (!table)
         throw DatabaseError(3078, "The attached table '" + link.name + "' has lost its source '" + link.sourceTable +
@@ -89,9 +87,7 @@ AttachedFile& Database::Impl::otherFile(std::string_view otherPath) {
     auto other = workspace->impl().attached(text);
     if (!other || !std::filesystem::exists(toPath(text)))
         other = workspace->impl().attach(text, {});
-    auto& held = file().linkedFiles;
-    if (std::find(held.begin(), held.end(), other) == held.end())
-        held.push_back(other);
+    file().hold(other);
     return *other;
 }
 

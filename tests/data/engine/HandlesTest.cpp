@@ -1,0 +1,155 @@
+#include "data/engine/Database.h"
+#include "data/types/DatabaseError.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+using Access = Workspace::Access;
+
+long faultOf(const std::function<void()>& action) {
+    try {
+        action();
+        return 0;
+    } catch (const RuntimeError& error) {
+        return error.number();
+    }
+}
+
+std::string contents(const std::string& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+class Handles : public testing::Test {
+protected:
+    void make(const std::string& path, const std::string& connect = {}) {
+        const auto database = Workspace::create()->createDatabase(path, connect);
+        database->execute("CREATE TABLE TblTeleItem ([1141] Text(20), Calls Long)");
+        database->execute("INSERT INTO TblTeleItem VALUES ('01708', 3)");
+    }
+
+    TemporaryFolder folder;
+    std::shared_ptr<Workspace> workspace = Workspace::create();
+};
+
+TEST_F(Handles, PathsMayHoldWhatFileNamesHold) {
+    const std::string names[] = {"O'Brien & Sons.mdb", "März [2026].mdb", "a;b \"c\".mdb", "100%.mdb", "-x.mdb"};
+    for (const std::string& name : names) {
+        const std::string path = folder.file(name);
+        make(path);
+        const auto database = workspace->openDatabase(path);
+        EXPECT_EQ(database->openRecordset("TblTeleItem")->RecordCount(), 1) << name;
+        EXPECT_EQ(database->name(), path);
+    }
+    std::filesystem::create_directory(folder.file("sub"));
+    const auto first = workspace->openDatabase(folder.file(names[0]));
+    const auto same = workspace->openDatabase(folder.file("sub") + "/../" + names[0]);
+    EXPECT_EQ(first->schema(), same->schema());
+}
+
+TEST_F(Handles, ReadOnlyRefusesEveryChangeAndLeavesTheFileAsItWas) {
+    const std::string path = folder.file("a.mdb");
+    make(path, "MS Access;PWD=p");
+    const std::string before = contents(path);
+    {
+        const auto database = workspace->openDatabase(path, Access::ReadOnly, "MS Access;PWD=p");
+        for (const char* change :
+             {"UPDATE TblTeleItem SET Calls = 1", "DELETE * FROM TblTeleItem",
+              "INSERT INTO TblTeleItem VALUES ('x', 1)", "SELECT * INTO Copy FROM TblTeleItem",
+              "DROP TABLE TblTeleItem", "CREATE TABLE T (N Long)", "ALTER TABLE TblTeleItem ADD COLUMN X Long",
+              "CREATE INDEX I ON TblTeleItem (Calls)"})
+            EXPECT_EQ(faultOf([&] { database->execute(change); }), 3027) << change;
+        const auto rows = database->openRecordset("TblTeleItem");
+        EXPECT_EQ(faultOf([&] { rows->Edit(); }), 3027);
+        EXPECT_EQ(faultOf([&] { database->tableDefs().remove("TblTeleItem"); }), 3027);
+    }
+    EXPECT_EQ(contents(path), before);
+}
+
+TEST_F(Handles, MayBeDroppedInAnyOrder) {
+    const std::string path = folder.file("a.mdb");
+    make(path);
+    auto first = workspace->openDatabase(path);
+    const auto second = workspace->openDatabase(path);
+    const auto rows = first->openRecordset("TblTeleItem");
+    workspace.reset();
+    first.reset();
+    second->execute("UPDATE TblTeleItem SET Calls = 4");
+    rows->Requery();
+    EXPECT_EQ(rows->value("Calls"), Value(4));
+    second->close();
+    EXPECT_EQ(faultOf([&] { second->close(); }), 3420);
+    EXPECT_FALSE(second->isOpen());
+    rows->Close();
+}
+
+/// The library attaches at most 125 files to a connection; a day's work opens more.
+TEST_F(Handles, HundredsOfFilesOneAfterTheOtherLeaveNothingOpen) {
+    const std::string system = folder.file("ukmap.mdb");
+    make(system);
+    make(folder.file("0.mdb"), "MS Access;PWD=p");
+    const auto map = workspace->openDatabase(system);
+    for (int i = 0; i < 150; ++i) {
+        const std::string path = folder.file(std::to_string(i) + ".mdb");
+        if (i > 0)
+            std::filesystem::copy_file(folder.file("0.mdb"), path);
+        TableDef link = map->createTableDef("Calls_Link");
+        link.connect = "MS Access;DATABASE=" + path + ";PWD=p";
+        link.sourceTableName = "TblTeleItem";
+        map->tableDefs().append(link);
+        const auto project = workspace->openDatabase(path, Access::Shared, "MS Access;PWD=p");
+        project->execute("INSERT INTO [" + system + "].[TblTeleItem] SELECT * FROM TblTeleItem");
+        map->execute("UPDATE Calls_Link SET Calls = Calls + 1");
+        map->tableDefs().remove("Calls_Link");
+    }
+    EXPECT_EQ(map->openRecordset("TblTeleItem")->RecordCount(), 151);
+    std::size_t open = 0;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code gone;
+        const auto target = std::filesystem::read_symlink(entry.path(), gone);
+        open += !gone && target.string().starts_with(folder.path().string());
+    }
+    EXPECT_LE(open, 4u);
+}
+
+TEST_F(Handles, AFileThatAnotherProcessWritesIsInUseAndKeepsItsRows) {
+    const std::string path = folder.file("a.mdb");
+    make(path);
+    int ready[2];
+    int done[2];
+    ASSERT_EQ(pipe(ready), 0);
+    ASSERT_EQ(pipe(done), 0);
+    const pid_t other = fork();
+    if (other == 0) {
+        char byte = 'x';
+        const auto mine = Workspace::create();
+        const auto database = mine->openDatabase(path);
+        mine->beginTrans();
+        database->execute("UPDATE TblTeleItem SET Calls = 10");
+        (void)!::write(ready[1], &byte, 1);
+        (void)!read(done[0], &byte, 1);
+        mine->commitTrans();
+        _exit(0);
+    }
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    const auto database = workspace->openDatabase(path);
+    EXPECT_EQ(database->openRecordset("TblTeleItem")->value("Calls"), Value(3));
+    EXPECT_EQ(faultOf([&] { database->execute("UPDATE TblTeleItem SET Calls = 20"); }), 3356);
+    ASSERT_EQ(::write(done[1], &byte, 1), 1);
+    waitpid(other, nullptr, 0);
+    EXPECT_EQ(database->openRecordset("TblTeleItem")->value("Calls"), Value(10));
+    database->execute("UPDATE TblTeleItem SET Calls = 20");
+}
+
+} // namespace
