@@ -67,8 +67,12 @@ private:
     std::string between(const Expression& expression);
     std::string like(const Expression& expression);
     std::string inList(const Expression& expression);
+
+    // LogicEmitter.cpp
+    std::string logic(const Expression& expression);
     std::string junction(const Expression& expression, std::string_view word);
-    std::string truth(const Expression& expression);
+    std::string bits(const Expression& expression);
+    std::string bitwise(const Expression& expression);
 
     // FunctionEmitter.cpp
     std::string function(const Expression& expression);
@@ -80,6 +84,8 @@ private:
     bool needsRowids_ = true; ///< in the clause that is being written
 };
 
+/// Whether a logical operator works on numbers, bit by bit.
+bool isBitwise(const Expression& expression);
 /// A value as the storage library writes it.
 std::string literalText(const Value& value);
 /// A column of the storage library, qualified.

@@ -5,6 +5,8 @@
 #include "data/jet/ScalarFunctions.h"
 #include "data/types/DatabaseError.h"
 
+#include <algorithm>
+
 namespace jet {
 
 namespace {
@@ -31,11 +33,14 @@ public:
         case Kind::Negate:
             return located(e, [&] { return negated(value(*e.operands[0])); });
         case Kind::Arithmetic:
-            if (e.op == Operator::Xor)
-                return ofTruth(truth(e));
             return located(e, [&] { return arithmetic(e.op, value(*e.operands[0]), value(*e.operands[1])); });
         case Kind::Function:
             return function(e);
+        case Kind::And:
+        case Kind::Or:
+        case Kind::Not:
+        case Kind::Logic:
+            return logic(e);
         default:
             return ofTruth(truth(e));
         }
@@ -44,13 +49,12 @@ public:
     Truth truth(const Expression& e) const {
         switch (e.kind) {
         case Kind::And:
-            return junction(e, false);
         case Kind::Or:
-            return junction(e, true);
-        case Kind::Not: {
-            const Truth operand = truth(*e.operands[0]);
-            return operand ? Truth(!*operand) : Truth();
-        }
+        case Kind::Not:
+        case Kind::Logic:
+            if (std::none_of(e.operands.begin(), e.operands.end(), mayBeNumber))
+                return condition(e);
+            break;
         case Kind::Comparison:
             return comparison(e);
         case Kind::Between:
@@ -61,13 +65,6 @@ public:
             return inList(e);
         case Kind::IsNull:
             return value(*e.operands[0]).isNull() != e.negated;
-        case Kind::Arithmetic:
-            if (e.op == Operator::Xor) {
-                const Truth a = truth(*e.operands[0]);
-                const Truth b = truth(*e.operands[1]);
-                return a && b ? Truth(*a != *b) : Truth();
-            }
-            break;
         case Kind::InQuery:
         case Kind::Exists:
         case Kind::ScalarQuery:
@@ -95,6 +92,76 @@ private:
                 throw DatabaseError(3464, "Data type mismatch in criteria expression.", e.position);
             throw DatabaseError(error.number(), error.description(), e.position);
         }
+    }
+
+    /// Tests give yes or no; whatever else stands in a logical operator can be a number.
+    static bool mayBeNumber(const ExpressionPtr& e) {
+        switch (e->kind) {
+        case Kind::And:
+        case Kind::Or:
+        case Kind::Not:
+        case Kind::Logic:
+            return std::any_of(e->operands.begin(), e->operands.end(), mayBeNumber);
+        case Kind::Comparison:
+        case Kind::Between:
+        case Kind::Like:
+        case Kind::InList:
+        case Kind::IsNull:
+            return false;
+        default:
+            return true;
+        }
+    }
+
+    /// A logical operator: of truths, or bit by bit where an operand is a number.
+    Value logic(const Expression& e) const {
+        if (std::none_of(e.operands.begin(), e.operands.end(), mayBeNumber))
+            return ofTruth(condition(e));
+        std::vector<Value> values;
+        bool numbers = false;
+        for (const ExpressionPtr& operand : e.operands) {
+            values.push_back(value(*operand));
+            if (values.back().isText())
+                throw DatabaseError(3464, "Data type mismatch in criteria expression.", operand->position);
+            const bool isBoolean = std::holds_alternative<bool>(values.back().storage());
+            numbers = numbers || (!values.back().isNull() && !isBoolean);
+        }
+        return numbers ? located(e, [&] { return combineBits(e, values); }) : ofTruth(condition(e));
+    }
+
+    static Value combineBits(const Expression& e, const std::vector<Value>& values) {
+        if (std::any_of(values.begin(), values.end(), [](const Value& value) { return value.isNull(); }))
+            return {};
+        std::int64_t bits = values.front().asInteger();
+        if (e.kind == Kind::Not)
+            return ~bits;
+        for (std::size_t i = 1; i < values.size(); ++i) {
+            const std::int64_t other = values[i].asInteger();
+            if (e.kind == Kind::And)
+                bits &= other;
+            else if (e.kind == Kind::Or)
+                bits |= other;
+            else if (e.op == Operator::Implies)
+                bits = ~bits | other;
+            else
+                bits = e.op == Operator::Xor ? bits ^ other : ~(bits ^ other);
+        }
+        return bits;
+    }
+
+    /// A logical operator of truths.
+    Truth condition(const Expression& e) const {
+        if (e.kind == Kind::And)
+            return junction(e, false);
+        if (e.kind == Kind::Or)
+            return junction(e, true);
+        const Truth a = truth(*e.operands[0]);
+        if (e.kind == Kind::Not)
+            return a ? Truth(!*a) : Truth();
+        const Truth b = truth(*e.operands[1]);
+        if (e.op == Operator::Implies)
+            return a == false || b == true ? Truth(true) : (a && b ? Truth(false) : Truth());
+        return a && b ? Truth((*a != *b) == (e.op == Operator::Xor)) : Truth();
     }
 
     Truth junction(const Expression& e, bool decides) const {

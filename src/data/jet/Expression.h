@@ -33,6 +33,8 @@ enum class Operator {
     Power,
     Concatenate,
     Xor,
+    Equivalent,
+    Implies,
 };
 
 /// What is known of an expression's values before any row is read.
@@ -52,7 +54,8 @@ struct Expression {
         Not,         ///< one operand
         And,         ///< two or more operands; a chain is one node
         Or,          ///< likewise
-        Arithmetic,  ///< `op` from Add to Xor; two operands
+        Logic,       ///< `op` from Xor to Implies; two operands
+        Arithmetic,  ///< `op` from Add to Concatenate; two operands
         Comparison,  ///< `op` from Equal to GreaterEqual; two operands
         Between,     ///< value, bound, bound in either order; `negated`
         Like,        ///< value, pattern; `negated`

@@ -140,11 +140,12 @@ void Binder::expression(Expression& expression, Scope& scope, Clause clause) {
     case Kind::And:
     case Kind::Or:
     case Kind::Not:
+    case Kind::Logic:
         for (const ExpressionPtr& part : expression.operands) {
             if (isText(part->bound.type))
                 throw DatabaseError(3464, "Data type mismatch in criteria expression.", part->position);
         }
-        type = booleanType(expression);
+        type = logicType(expression);
         break;
     case Kind::Like:
     case Kind::IsNull:

@@ -115,7 +115,12 @@ std::string Emitter::value(const Expression& expression) {
     case Kind::Negate:
         return "(- " + number(*expression.operands.front()) + ")";
     case Kind::Arithmetic:
-        return expression.op == Operator::Xor ? "(- " + condition(expression) + ")" : arithmetic(expression);
+        return arithmetic(expression);
+    case Kind::And:
+    case Kind::Or:
+    case Kind::Not:
+    case Kind::Logic:
+        return isBitwise(expression) ? bitwise(expression) : "(- " + logic(expression) + ")";
     case Kind::Function:
         return function(expression);
     case Kind::Aggregate:
@@ -148,16 +153,10 @@ std::string Emitter::condition(const Expression& expression) {
     case Kind::IsNull:
         return "(" + value(*expression.operands.front()) + (expression.negated ? " IS NOT NULL)" : " IS NULL)");
     case Kind::And:
-        return junction(expression, " AND ");
     case Kind::Or:
-        return junction(expression, " OR ");
     case Kind::Not:
-        return "(NOT " + condition(*expression.operands.front()) + ")";
-    case Kind::Arithmetic:
-        if (expression.op == Operator::Xor)
-            return "((NOT " + condition(*expression.operands[0]) + ") <> (NOT " + condition(*expression.operands[1]) +
-                   "))";
-        return value(expression);
+    case Kind::Logic:
+        return isBitwise(expression) ? bitwise(expression) : logic(expression);
     case Kind::Function:
         if (expression.bound.function->name == "ISNULL")
             return "(" + value(*expression.operands.front()) + " IS NULL)";
@@ -167,26 +166,6 @@ std::string Emitter::condition(const Expression& expression) {
     default:
         return value(expression);
     }
-}
-
-/// And and Or of many parts, in balanced brackets, so that the library's tree stays shallow.
-std::string Emitter::junction(const Expression& expression, std::string_view word) {
-    std::vector<std::string> parts;
-    for (const ExpressionPtr& operand : expression.operands)
-        parts.push_back(condition(*operand));
-    constexpr std::size_t flat = 8;
-    while (parts.size() > 1) {
-        std::vector<std::string> joined;
-        for (std::size_t i = 0; i < parts.size(); i += flat) {
-            std::string group = parts[i];
-            const std::size_t end = std::min(i + flat, parts.size());
-            for (std::size_t j = i + 1; j < end; ++j)
-                group.append(word).append(parts[j]);
-            joined.push_back(end - i > 1 ? "(" + group + ")" : group);
-        }
-        parts = std::move(joined);
-    }
-    return parts.front();
 }
 
 std::string Emitter::comparison(const Expression& expression) {

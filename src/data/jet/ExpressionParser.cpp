@@ -40,6 +40,13 @@ constexpr std::array<std::pair<std::string_view, Operator>, 6> comparisonWords{{
     {">=", Operator::GreaterEqual},
 }};
 
+/// From the one that binds least.
+constexpr std::array<std::pair<std::string_view, Operator>, 3> logicWords{{
+    {"IMP", Operator::Implies},
+    {"EQV", Operator::Equivalent},
+    {"XOR", Operator::Xor},
+}};
+
 constexpr std::array<std::string_view, 10> aggregateNames{"COUNT", "SUM",  "AVG",   "MIN", "MAX",
                                                           "FIRST", "LAST", "STDEV", "VAR", "STDEVP"};
 
@@ -60,7 +67,7 @@ ExpressionPtr StatementParser::wholeExpression() {
 
 ExpressionPtr StatementParser::expression(Follower follower) {
     const Nesting nesting(*this);
-    ExpressionPtr result = exclusion();
+    ExpressionPtr result = logic(0);
     // A literal or name right behind an expression lacks an operator: mostly an apostrophe inside a pasted text.
     switch (tokens_.peek().kind) {
     case Token::Kind::Text:
@@ -75,11 +82,15 @@ ExpressionPtr StatementParser::expression(Follower follower) {
     return result;
 }
 
-ExpressionPtr StatementParser::exclusion() {
-    ExpressionPtr left = junction();
-    while (tokens_.isWord("XOR")) {
+/// Xor, Eqv and Imp, each binding less than the one before it and all less than Or.
+ExpressionPtr StatementParser::logic(int level) {
+    if (level == static_cast<int>(logicWords.size()))
+        return junction();
+    const auto& [word, op] = logicWords[static_cast<std::size_t>(level)];
+    ExpressionPtr left = logic(level + 1);
+    while (tokens_.isWord(word)) {
         const std::size_t position = tokens_.take().position;
-        left = binary(Expression::Kind::Arithmetic, Operator::Xor, position, std::move(left), junction());
+        left = binary(Expression::Kind::Logic, op, position, std::move(left), logic(level + 1));
     }
     return left;
 }

@@ -20,7 +20,7 @@ private:
     enum class Follower { Alias, NoName };
     /// A whole expression; faults where what stands behind it cannot follow one.
     ExpressionPtr expression(Follower follower = Follower::NoName);
-    ExpressionPtr exclusion();
+    ExpressionPtr logic(int level);
     ExpressionPtr junction();
     ExpressionPtr conjunction();
     ExpressionPtr negation();

@@ -147,9 +147,6 @@ StaticType arithmeticType(Operator op, const StaticType& a, const StaticType& b)
         type.type = FieldType::Long;
         type.nullable = true;
         return type;
-    case Operator::Xor:
-        type.type = FieldType::Boolean;
-        return type;
     default:
         break;
     }
@@ -157,6 +154,17 @@ StaticType arithmeticType(Operator op, const StaticType& a, const StaticType& b)
         type.alwaysNull = true;
     else if (a.type && b.type)
         type.type = sumType(op, a, b);
+    return type;
+}
+
+StaticType logicType(const Expression& expression) {
+    StaticType type;
+    type.type = FieldType::Boolean;
+    for (const ExpressionPtr& operand : expression.operands) {
+        const auto kind = operand->bound.type.type;
+        if (kind && kind != FieldType::Boolean && (isNumeric(*kind) || kind == FieldType::Date))
+            type.type = FieldType::Long;
+    }
     return type;
 }
 

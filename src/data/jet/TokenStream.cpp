@@ -17,11 +17,12 @@ bool sameWord(std::string_view a, std::string_view b) {
     return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return lower(x) == lower(y); });
 }
 
-constexpr std::array<std::string_view, 43> reservedWords{
-    "ADD",      "ALL",         "ALTER", "AND",    "AS",    "ASC",   "BETWEEN", "BY",     "CREATE", "DELETE", "DESC",
-    "DISTINCT", "DISTINCTROW", "DROP",  "EXISTS", "FALSE", "FROM",  "GROUP",   "HAVING", "IN",     "INNER",  "INSERT",
-    "INTO",     "IS",          "JOIN",  "LEFT",   "LIKE",  "MOD",   "NOT",     "NULL",   "ON",     "OR",     "ORDER",
-    "RIGHT",    "SELECT",      "SET",   "TABLE",  "TRUE",  "UNION", "UPDATE",  "VALUES", "WHERE",  "XOR"};
+constexpr std::array<std::string_view, 45> reservedWords{
+    "ADD",    "ALL",   "ALTER",    "AND",         "AS",    "ASC",    "BETWEEN", "BY",     "CREATE",
+    "DELETE", "DESC",  "DISTINCT", "DISTINCTROW", "DROP",  "EQV",    "IMP",     "EXISTS", "FALSE",
+    "FROM",   "GROUP", "HAVING",   "IN",          "INNER", "INSERT", "INTO",    "IS",     "JOIN",
+    "LEFT",   "LIKE",  "MOD",      "NOT",         "NULL",  "ON",     "OR",      "ORDER",  "RIGHT",
+    "SELECT", "SET",   "TABLE",    "TRUE",        "UNION", "UPDATE", "VALUES",  "WHERE",  "XOR"};
 
 } // namespace
 
