@@ -2,8 +2,10 @@
 
 #include "data/jet/Statement.h"
 
+#include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace jet {
 
@@ -55,7 +57,14 @@ private:
                       std::vector<const Expression*>& conditions);
     std::string bracketedItem(const FromItem& item);
     std::string outerJoin(const FromItem& item);
-    std::string keyedJoin(const FromItem& left, const FromItem& right, const Expression& on);
+
+    // KeyedTables.cpp
+    void findKeys(const Select& select);
+    void keysOfJoins(const FromItem& item, const std::vector<const Source*>& certain);
+    void keysOfCondition(const Expression& condition, const std::vector<const Source*>& certain, const Source* wanted);
+    void addKey(const Expression& expression);
+    std::string keyText(const Expression& expression) const;
+    std::string tableWithKeys(const Source& source);
 
     // ExpressionEmitter.cpp
     std::string text(const Expression& expression);
@@ -81,7 +90,8 @@ private:
     std::string dialectCall(const Expression& expression);
     std::string aggregate(const Expression& expression);
 
-    bool needsRowids_ = true; ///< in the clause that is being written
+    /// Calculated texts by which a table is joined, as columns "%key0", "%key1" … of it.
+    std::map<const Source*, std::vector<const Expression*>> keys_;
 };
 
 /// Whether a logical operator works on numbers, bit by bit.

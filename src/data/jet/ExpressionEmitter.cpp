@@ -171,11 +171,16 @@ std::string Emitter::condition(const Expression& expression) {
 std::string Emitter::comparison(const Expression& expression) {
     const Expression& left = comparedPart(*expression.operands[0]);
     const Expression& right = comparedPart(*expression.operands[1]);
-    std::string a = value(left);
-    std::string b = value(right);
+    std::string a = keyText(left);
+    std::string b = keyText(right);
+    const bool leftIsKey = !a.empty();
+    if (!leftIsKey)
+        a = value(left);
+    if (b.empty())
+        b = value(right);
     const bool textual = (isText(left.bound.type) || isUnknown(left.bound.type)) &&
                          (isText(right.bound.type) || isUnknown(right.bound.type));
-    if (textual && !carriesCollation(left) && (left.kind == Kind::Column || !carriesCollation(right)))
+    if (textual && !leftIsKey && !carriesCollation(left) && (left.kind == Kind::Column || !carriesCollation(right)))
         a += " COLLATE JET";
     if (isCalculatedDate(left) || isCalculatedDate(right)) {
         a = inSeconds(a);

@@ -1,40 +1,6 @@
 #include "data/jet/Emitter.h"
 
-#include "data/jet/StaticTypes.h"
-
-#include <algorithm>
-#include <utility>
-
 namespace jet {
-
-namespace {
-
-bool uses(const Expression& expression, const Source* source) {
-    if (expression.kind == Expression::Kind::Column)
-        return expression.bound.source == source;
-    // What a query inside names is not looked into.
-    return expression.query || std::any_of(expression.operands.begin(), expression.operands.end(),
-                                           [&](const ExpressionPtr& operand) { return uses(*operand, source); });
-}
-
-/// Whether the expression names columns, and all of them of `source`.
-bool usesOnly(const Expression& expression, const Source* source) {
-    if (expression.kind == Expression::Kind::Column)
-        return expression.bound.source == source;
-    if (expression.query)
-        return false;
-    bool any = false;
-    for (const ExpressionPtr& operand : expression.operands) {
-        if (operand->kind == Expression::Kind::Literal)
-            continue;
-        if (!usesOnly(*operand, source))
-            return false;
-        any = true;
-    }
-    return any;
-}
-
-} // namespace
 
 std::string Emitter::from(const std::vector<std::unique_ptr<FromItem>>& items) {
     std::string sql;
@@ -45,11 +11,8 @@ std::string Emitter::from(const std::vector<std::unique_ptr<FromItem>>& items) {
 
 std::string Emitter::fromItem(const FromItem& item) {
     switch (item.kind) {
-    case FromItem::Kind::Table: {
-        const Table& table = *item.source->table;
-        return quoteIdentifier(table.schema) + "." + quoteIdentifier(table.name) + " AS " +
-               quoteIdentifier(item.source->name);
-    }
+    case FromItem::Kind::Table:
+        return tableWithKeys(*item.source);
     case FromItem::Kind::Derived:
         return "(" + subquery(*item.query) + ") AS " + quoteIdentifier(item.source->name);
     case FromItem::Kind::Join:
@@ -64,30 +27,7 @@ std::string Emitter::fromItem(const FromItem& item) {
 std::string Emitter::outerJoin(const FromItem& item) {
     const FromItem& left = item.join == FromItem::Join::Left ? *item.left : *item.right;
     const FromItem& right = item.join == FromItem::Join::Left ? *item.right : *item.left;
-    std::string keyed = needsRowids_ ? std::string() : keyedJoin(left, right, *item.on);
-    if (!keyed.empty())
-        return keyed;
     return fromItem(left) + " LEFT JOIN " + bracketedItem(right) + " ON " + condition(*item.on);
-}
-
-/// The library makes no index of its own over an expression. Where an outer join compares a text made from columns of
-/// its right table, that text becomes a column, over which it can; without, each row of the left would look at all of
-/// the right. Empty for any other join.
-std::string Emitter::keyedJoin(const FromItem& left, const FromItem& right, const Expression& on) {
-    if (right.kind != FromItem::Kind::Table || on.kind != Expression::Kind::Comparison || on.op != Operator::Equal)
-        return {};
-    const Source* source = right.source.get();
-    const Expression* outer = &comparedPart(*on.operands[0]);
-    const Expression* key = &comparedPart(*on.operands[1]);
-    if (usesOnly(*outer, source))
-        std::swap(outer, key);
-    if (key->kind != Expression::Kind::Function || !isText(key->bound.type) || !isText(outer->bound.type) ||
-        !usesOnly(*key, source) || uses(*outer, source))
-        return {};
-    const std::string name = quoteIdentifier(source->name);
-    return fromItem(left) + " LEFT JOIN (SELECT *, CAST(" + value(*key) + " AS TEXT) COLLATE JET AS \"%key\" FROM " +
-           fromItem(right) + " LIMIT -1) AS " + name + " ON (" + value(*outer) + " COLLATE JET = " + name +
-           ".\"%key\")";
 }
 
 std::string Emitter::bracketedItem(const FromItem& item) {

@@ -137,9 +137,8 @@ std::string Emitter::outputList(const Select& select, const Form& form) {
 std::string Emitter::clauses(const Select& select, const std::string& alsoWhere) {
     std::string sql;
     if (!select.from.empty()) {
-        const bool outside = std::exchange(needsRowids_, false);
+        findKeys(select);
         sql += " FROM " + from(select.from);
-        needsRowids_ = outside;
     }
     if (select.where)
         sql += " WHERE " + condition(*select.where);
