@@ -10,7 +10,8 @@ namespace jet::functions {
 
 namespace {
 
-constexpr std::int64_t longestText = 1'000'000; ///< that Space and String make
+constexpr std::int64_t longestText = 1'000'000;      ///< that Space and String make
+constexpr std::size_t longestReplaced = 100'000'000; ///< bytes that Replace makes
 
 [[noreturn]] void invalidArgument() {
     throw RuntimeError(5, "Invalid procedure call or argument");
@@ -158,6 +159,8 @@ Value replace(Arguments a) {
             return result + text.substr(at);
         result.append(text, at, found - at).append(with);
         at = found + wanted.size();
+        if (result.size() > longestReplaced)
+            throw RuntimeError(14, "Out of string space");
     }
 }
 

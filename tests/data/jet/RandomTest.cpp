@@ -193,6 +193,90 @@ TEST(RandomQueries, PlainStatementsOfTheLibraryGiveTheSame) {
     }
 }
 
+TEST(RandomQueries, SetsJoinsAndGroupsAreThoseOfTheLibrary) {
+    JetFixture database;
+    Maker maker(11);
+    for (const char* table : {"P", "Q", "S"}) {
+        database.run(std::string("CREATE TABLE ") + table + " (k Long, n Long, t Text(5))");
+        for (int i = 0; i < 60; ++i)
+            database.run(std::string("INSERT INTO ") + table + " VALUES (" + std::to_string(maker.below(25)) + ", " +
+                         maker.pick({"Null", "1", "2", "3"}) + ", " + maker.pick({"Null", "'a'", "'b'", "''"}) + ")");
+    }
+    const auto join = [&] { return maker.pick({" INNER", " LEFT", " RIGHT"}) + " JOIN "; };
+    const auto condition = [&] {
+        return maker.pick({"P.n > 1", "P.t = 'a'", "Q.n Is Null", "P.n + Q.n = 3", "Not P.n = 2", "P.k In (1, 2, 3, 4)",
+                           "P.n In (SELECT n FROM S WHERE S.k = Q.k)", "P.k Between 5 And 20"});
+    };
+    int rows = 0;
+    for (int i = 0; i < 400; ++i) {
+        const std::string from = "P" + join() + "Q ON P.k = Q.k";
+        const std::string nested = "(" + from + ")" + join() + "S ON Q.k = S.k";
+        const std::string where = " WHERE " + condition() + maker.pick({" AND ", " OR "}) + condition();
+        const std::string statements[] = {
+            "SELECT P.k, Q.n, S.t FROM " + nested + where + " ORDER BY P.k, Q.n, S.t, P.n, Q.k, S.k",
+            "SELECT DISTINCT P.t, Q.n FROM " + from + where + " ORDER BY P.t, Q.n",
+            "SELECT P.n, Count(*) AS c, Max(Q.k) AS m FROM " + from + where +
+                " GROUP BY P.n HAVING Count(*) > 2 ORDER BY P.n DESC",
+            "SELECT P.k, P.n FROM " + from + where + maker.pick({" UNION ", " UNION ALL "}) +
+                "SELECT S.k, S.n FROM S WHERE S.n > 1 ORDER BY 1, 2",
+            "SELECT x.n, Sum(x.k) AS s FROM (SELECT P.n, Q.k FROM " + from + where +
+                ") AS x GROUP BY x.n ORDER BY x.n"};
+        for (const std::string& sql : statements) {
+            const JetFixture::Result result = database.run(sql);
+            rows += static_cast<int>(result.rows.size());
+            ASSERT_EQ(result.rows, database.queryPlain(sql, result.columns)) << sql << "\n" << result.program.query;
+        }
+    }
+    EXPECT_GT(rows, 20000);
+}
+
+TEST(RandomChanges, LeaveTheTablesThatTheLibraryLeaves) {
+    JetFixture database;
+    Maker maker(23);
+    const auto table = [&](const char* name) {
+        return database.queryPlain(std::string("SELECT k, n FROM ") + name + " ORDER BY k, n",
+                                   {{"k", FieldType::Long, 0, ""}, {"n", FieldType::Long, 0, ""}});
+    };
+    database.run("CREATE TABLE Keys (k Long, w Long)");
+    database.run("CREATE UNIQUE INDEX Once ON Keys (k)");
+    for (int k = 0; k < 30; k += 1 + maker.below(3))
+        database.run("INSERT INTO Keys VALUES (" + std::to_string(k) + ", " + maker.pick({"Null", "5", "6"}) + ")");
+    for (int round = 0; round < 60; ++round) {
+        for (const char* drop : {"DROP TABLE IF EXISTS A", "DROP TABLE IF EXISTS B"})
+            database.executePlain(drop);
+        database.run("CREATE TABLE A (k Long, n Long)");
+        for (int i = 0; i < 40; ++i)
+            database.run("INSERT INTO A VALUES (" + std::to_string(maker.below(30)) + ", " +
+                         maker.pick({"Null", "1", "2"}) + ")");
+        database.run("SELECT * INTO B FROM A");
+        const std::string test = maker.pick({"n = 1", "n Is Null", "k > 10", "k > 3 And n < 2", "Not n = 2"});
+        struct Pair {
+            std::string ours;
+            std::string plain;
+        };
+        const std::string matching = "SELECT w FROM Keys WHERE Keys.k = B.k";
+        const std::string qualified = maker.pick({"A.n = 1", "A.k > 10", "Keys.w = 5", "Keys.w Is Null"});
+        std::string ofB = qualified;
+        if (ofB.starts_with("A."))
+            ofB.replace(0, 1, "B");
+        const Pair pairs[] = {{"UPDATE A SET n = n + 10 WHERE " + test, "UPDATE B SET n = n + 10 WHERE " + test},
+                              {"DELETE * FROM A WHERE " + test, "DELETE FROM B WHERE " + test},
+                              {"INSERT INTO A SELECT k + 1 AS k, n FROM A WHERE " + test,
+                               "INSERT INTO B SELECT k + 1, n FROM B WHERE " + test},
+                              {"UPDATE A INNER JOIN Keys ON A.k = Keys.k SET A.n = Keys.w WHERE " + qualified,
+                               "UPDATE B SET n = (" + matching +
+                                   ") WHERE EXISTS (SELECT 1 FROM Keys WHERE Keys.k = B.k AND " + ofB + ")"},
+                              {"UPDATE A LEFT JOIN Keys ON A.k = Keys.k SET A.n = Keys.w WHERE Keys.w Is Null",
+                               "UPDATE B SET n = NULL WHERE (" + matching + ") IS NULL"},
+                              {"DELETE A.* FROM A INNER JOIN Keys ON A.k = Keys.k WHERE " + qualified,
+                               "DELETE FROM B WHERE EXISTS (SELECT 1 FROM Keys WHERE Keys.k = B.k AND " + ofB + ")"}};
+        const Pair& pair = pairs[maker.below(6)];
+        database.run(pair.ours);
+        database.executePlain(pair.plain);
+        ASSERT_EQ(table("A"), table("B")) << pair.ours << "\n" << pair.plain;
+    }
+}
+
 TEST(RandomJoins, KeysThatDifferInCaseAndBlanksMeet) {
     JetFixture database;
     Maker maker(99);
