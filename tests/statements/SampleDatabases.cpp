@@ -43,7 +43,8 @@ void fillStatistics(Database& system, const Boundary& boundary) {
     system.execute("UPDATE " + table + " SET AnsweredCallers1 = Answered1 \\ 2, LostCallers1 = Ineffective1 \\ 2");
     system.execute("INSERT INTO " + selected + " SELECT " + key + measures + " FROM " + table);
     if (system.tableDefs().find(selected)->findField("TotalCalls7"))
-        system.execute("UPDATE " + selected + " SET TotalCalls7 = TotalCalls1, Answered7 = Answered1");
+        system.execute("UPDATE " + selected +
+                       " SET TotalCalls7 = TotalCalls1, Answered7 = Answered1, AnsweredCallers7 = AnsweredCallers1");
 }
 
 void fillStatistics(Database& system) {
