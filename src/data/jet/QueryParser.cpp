@@ -119,6 +119,9 @@ SelectColumn StatementParser::selectColumn() {
         tokens_.isWord("INTO"))
         tokens_.fail(selectError);
     column.expression = expression(Follower::Alias);
+    // Two names in a row are no alias but an apostrophe inside a pasted text: 'KING'S LYNN'.
+    if (tokens_.isName() && tokens_.isName(1))
+        tokens_.fail(expressionError_);
     column.alias = optionalAlias(selectError);
     return column;
 }
