@@ -41,9 +41,9 @@ double numberOfText(std::string_view text) {
 std::string dateText(Date date) {
     const DateParts p = partsOf(date);
     const bool hasTime = p.hour != 0 || p.minute != 0 || p.second != 0;
-    const bool hasDay = std::trunc(date.days) != 0.0 || !hasTime;
+    const bool hasDay = std::trunc(date.days) != 0.0;
     char text[40];
-    if (!hasTime)
+    if (hasDay && !hasTime)
         std::snprintf(text, sizeof text, "%02d/%02d/%04d", p.day, p.month, p.year);
     else if (!hasDay)
         std::snprintf(text, sizeof text, "%02d:%02d:%02d", p.hour, p.minute, p.second);

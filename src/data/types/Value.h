@@ -57,7 +57,7 @@ public:
     Date asDate() const;
     const Bytes& asBytes() const; ///< throws 13 unless it holds bytes
     /// As `&` writes it: numbers in their shortest decimal text, booleans "True"/"False", dates "dd/mm/yyyy hh:mm:ss"
-    /// (the time left out at midnight, the date left out for day 0). Null gives the empty text.
+    /// (the date left out for day 0, else the time left out at midnight). Null gives the empty text.
     std::string asText() const;
 
     friend bool operator==(const Value&, const Value&) = default; ///< same kind and same bits; not the dialect's `=`

@@ -25,7 +25,7 @@ TEST(DateText, ReadsTheFormsThatStatementsAndPeopleWrite) {
         {"1/2/26", false, "01/02/2026"},
         {"08:00", false, "08:00:00"},
         {"11:59:59 PM", false, "23:59:59"},
-        {"12:00 AM", false, "30/12/1899"},
+        {"12:00 AM", false, "00:00:00"},
         {"31/02/2025", false, nullptr},
         {"24:00", false, nullptr},
         {"10:60", false, nullptr},
