@@ -44,13 +44,34 @@ function(callscope_fetch_sqlite out)
   set(${out} "${unpacked}/package/deps/sqlite3" PARENT_SCOPE)
 endfunction()
 
+# The layer that encrypts passes over every failed read but that of a short file, and then takes whatever the buffer held
+# for the page. Where the library has that fault, `mended` is made without it.
+function(callscope_mend_sqlite source mended out)
+  set(${out} "${mended}" PARENT_SCOPE)
+  if(EXISTS "${mended}" AND NOT "${source}" IS_NEWER_THAN "${mended}")
+    return()
+  endif()
+  file(READ "${source}" text)
+  string(REPLACE "if (rc == SQLITE_IOERR_SHORT_READ)\n" "if (rc != SQLITE_OK)\n" changed "${text}")
+  if(changed STREQUAL text)
+    set(${out} "${source}" PARENT_SCOPE)
+    return()
+  endif()
+  # Two build folders may be configured at once.
+  string(RANDOM LENGTH 8 suffix)
+  file(WRITE "${mended}.${suffix}" "${changed}")
+  file(RENAME "${mended}.${suffix}" "${mended}")
+endfunction()
+
 if(CALLSCOPE_SQLITE_DIR)
   set(sqlite_dir "${CALLSCOPE_SQLITE_DIR}")
+  callscope_mend_sqlite("${sqlite_dir}/sqlite3.c" "${CMAKE_BINARY_DIR}/sqlite3-mended.c" sqlite_source)
 else()
   callscope_fetch_sqlite(sqlite_dir)
+  callscope_mend_sqlite("${sqlite_dir}/sqlite3.c" "${sqlite_dir}/sqlite3-mended.c" sqlite_source)
 endif()
 
-add_library(callscope_sqlite3 STATIC "${sqlite_dir}/sqlite3.c")
+add_library(callscope_sqlite3 STATIC "${sqlite_source}")
 target_include_directories(callscope_sqlite3 SYSTEM PUBLIC "${sqlite_dir}")
 # The most files a workspace can hold open at once is SQLITE_MAX_ATTACHED (125 is the library's own ceiling).
 target_compile_definitions(

@@ -4,6 +4,9 @@
 #include "data/types/DatabaseError.h"
 #include "data/types/Value.h"
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
 constexpr std::string_view linkTable = "MSysLinks";
@@ -75,6 +78,18 @@ void AttachedFile::attach(Create create) {
             connection_->execute("DETACH DATABASE " + schema_);
         refuse(error, path_, kind);
     }
+}
+
+DatabaseError AttachedFile::withPaths(const DatabaseError& error) const {
+    constexpr std::array<long, 6> faultsOfDisk{3027, 3043, 3049, 3051, 3183, 3356};
+    std::string words = error.description();
+    if (std::find(faultsOfDisk.begin(), faultsOfDisk.end(), error.number()) == faultsOfDisk.end() ||
+        words.find('\'') != std::string::npos)
+        return error;
+    words += ": '" + path_ + "'";
+    for (const auto& other : held_)
+        words += " or '" + other->path() + "'";
+    return {error.number(), words, error.position()};
 }
 
 void AttachedFile::lockExclusively() {

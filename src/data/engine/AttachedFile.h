@@ -2,6 +2,7 @@
 
 #include "data/jet/Catalog.h"
 #include "data/sqlite/Connection.h"
+#include "data/types/DatabaseError.h"
 
 #include <cstdint>
 #include <map>
@@ -54,8 +55,20 @@ public:
     void hold(const std::shared_ptr<AttachedFile>& other);
     void letGo(std::string_view path);
 
+    /// Runs `work`. An error of the disk that comes out of it, such as a full one, gets the paths of this file and of
+    /// those that its links have opened.
+    template<class Work>
+    decltype(auto) named(Work work) const {
+        try {
+            return work();
+        } catch (const DatabaseError& error) {
+            throw withPaths(error);
+        }
+    }
+
 private:
     void attach(Create create);
+    DatabaseError withPaths(const DatabaseError& error) const;
     void readSchema();
     jet::Table readTable(const std::string& name, bool isView) const;
 

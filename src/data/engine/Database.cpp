@@ -21,14 +21,14 @@ void Database::close() {
 
 jet::Program Database::translate(std::string_view statement) const {
     impl_->file();
-    return jet::translate(statement, *impl_);
+    return impl_->file().named([&] { return jet::translate(statement, *impl_); });
 }
 
 void Database::execute(std::string_view statement) {
     const jet::Program program = translate(statement);
     if (program.isQuery)
         throw DatabaseError(3065, "A query that shows rows cannot be executed; open it as a recordset");
-    impl_->run(program);
+    impl_->file().named([&] { impl_->run(program); });
 }
 
 long Database::recordsAffected() const {
@@ -46,7 +46,7 @@ std::shared_ptr<Recordset> Database::run(std::string_view statement) {
     jet::Program program = translate(statement);
     if (program.isQuery)
         return open(std::move(program));
-    impl_->run(program);
+    impl_->file().named([&] { impl_->run(program); });
     return nullptr;
 }
 
@@ -54,7 +54,7 @@ std::shared_ptr<Recordset> Database::open(jet::Program program) {
     if (impl_->readOnly)
         program.updatable.reset();
     auto rows = std::make_unique<Recordset::Impl>(impl_->attached, std::move(program));
-    rows->query();
+    impl_->attached->named([&] { rows->query(); });
     return std::make_shared<Recordset>(std::move(rows));
 }
 

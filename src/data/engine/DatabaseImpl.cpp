@@ -160,28 +160,29 @@ void Database::Impl::create(const TableDef& definition) {
         checkTableName(definition.name);
         const AttachedFile::Link link{definition.name, definition.sourceTableName, definition.connect};
         followLink(file(), link, 0); // a link that leads nowhere is refused
-        file().addLink(link);
+        file().named([&] { file().addLink(link); });
         return;
     }
     const TableDef checked = checkedDefinition(definition);
     std::string sql = "CREATE TABLE " + file().schema() + "." + quoteIdentifier(checked.name) + " (";
     for (std::size_t i = 0; i < checked.fields.size(); ++i)
         sql += (i == 0 ? "" : ", ") + columnDefinition(checked.fields[i]);
-    file().connection().execute(sql + ")");
+    file().named([&] { file().connection().execute(sql + ")"); });
     file().invalidate();
 }
 
 void Database::Impl::remove(const TableDef& definition) {
     refuseWhereReadOnly();
     if (definition.isAttached()) {
-        file().removeLink(definition.name);
+        file().named([&] { file().removeLink(definition.name); });
         return;
     }
     const auto table = findTable(definition.name);
     if (!table)
         throw DatabaseError(3265, "There is no table '" + definition.name + "'");
-    file().connection().execute((table->isView ? "DROP VIEW " : "DROP TABLE ") + file().schema() + "." +
-                                quoteIdentifier(table->name));
+    const std::string sql =
+        (table->isView ? "DROP VIEW " : "DROP TABLE ") + file().schema() + "." + quoteIdentifier(table->name);
+    file().named([&] { file().connection().execute(sql); });
     file().invalidate();
 }
 
@@ -194,8 +195,9 @@ void Database::Impl::addField(const std::string& name, const Field& field) {
         if (equalText(other.name, field.name))
             throw DatabaseError(3191, "Field '" + field.name + "' already exists in table '" + name + "'");
     }
-    file().connection().execute("ALTER TABLE " + table->schema + "." + quoteIdentifier(table->name) + " ADD COLUMN " +
-                                columnDefinition(checkedField(field)));
+    const std::string sql = "ALTER TABLE " + table->schema + "." + quoteIdentifier(table->name) + " ADD COLUMN " +
+                            columnDefinition(checkedField(field));
+    file().named([&] { file().connection().execute(sql); });
     file().invalidate();
 }
 

@@ -67,6 +67,16 @@ Field checkedField(const Field& field) {
     return checked;
 }
 
+Value defaultOf(const Field& field) {
+    if (!field.defaultValue)
+        return field.type == FieldType::Boolean ? Value(false) : Value();
+    try {
+        return storedValue(field, defaultValueOf(*jet::parseExpression(*field.defaultValue)));
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
 void checkTableName(std::string_view name) {
     if (!isName(name) || isSystemTable(name))
         throw DatabaseError(3125, "'" + std::string(name) + "' is not a valid name for a table");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/types/FieldType.h"
+#include "data/types/Value.h"
 
 #include <string_view>
 
@@ -10,6 +11,10 @@ struct TableDef;
 /// library. Throws DatabaseError: 3125 for a name that is none, 3421 for a default that the field cannot take, 3273
 /// for a width beyond 255.
 Field checkedField(const Field& field);
+
+/// What the field holds in a new row before anything is set: its default, false for a boolean, else null. A default
+/// that is no literal, as a file made by other means may have, is known only when the row is stored; null until then.
+Value defaultOf(const Field& field);
 
 /// Throws 3125 for a name that a table cannot have: empty, longer than 64 characters, one of the engine's own, or with
 /// a character that statements could not write.

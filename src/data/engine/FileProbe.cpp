@@ -62,12 +62,16 @@ FileProbe probeFile(const std::string& path) {
             damaged(path, "its header is not valid");
         throw unrecognized();
     }
+    // The storage library undoes an interrupted change when it opens the file; until then its size may be any.
+    const std::filesystem::path journal = toPath(path + "-journal");
+    const bool interrupted = std::filesystem::exists(journal, fault) && std::filesystem::file_size(journal, fault) > 0;
     const std::uint64_t size = std::filesystem::file_size(file, fault);
-    if (size % pageSize(header) != 0)
+    if (!interrupted && size % pageSize(header) != 0)
         damaged(path, "it has been cut off");
     if (plain) {
         // The page count is to be believed where it was written together with the change counter.
-        if (bigEndian32(header, 24) == bigEndian32(header, 92) && bigEndian32(header, 28) * pageSize(header) > size)
+        if (!interrupted && bigEndian32(header, 24) == bigEndian32(header, 92) &&
+            bigEndian32(header, 28) * pageSize(header) > size)
             damaged(path, "it has been cut off");
         const std::uint32_t application = bigEndian32(header, 68);
         if (application != 0 && application != static_cast<std::uint32_t>(ApplicationId))

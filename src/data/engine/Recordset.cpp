@@ -59,13 +59,23 @@ void Recordset::MovePrevious() {
     moveTo(*impl_, impl_->cursor - 1);
 }
 
+using Direction = Recordset::Impl::Direction;
+
 void Recordset::FindFirst(std::string_view expression) {
     impl_->requireOpen();
-    impl_->search(expression, 0);
+    impl_->search(expression, 0, Direction::Forward);
 }
 void Recordset::FindNext(std::string_view expression) {
     impl_->requireOpen();
-    impl_->search(expression, impl_->deleted ? impl_->cursor : impl_->cursor + 1);
+    impl_->search(expression, impl_->deleted ? impl_->cursor : impl_->cursor + 1, Direction::Forward);
+}
+void Recordset::FindLast(std::string_view expression) {
+    impl_->requireOpen();
+    impl_->search(expression, impl_->rows - 1, Direction::Backward);
+}
+void Recordset::FindPrevious(std::string_view expression) {
+    impl_->requireOpen();
+    impl_->search(expression, impl_->cursor - 1, Direction::Backward);
 }
 bool Recordset::NoMatch() const {
     impl_->requireOpen();
@@ -106,9 +116,7 @@ void Recordset::Edit() {
 void Recordset::AddNew() {
     impl_->requireOpen();
     impl_->requireEditable();
-    impl_->buffer.assign(static_cast<std::size_t>(impl_->columns()), Value());
-    impl_->touched.assign(impl_->buffer.size(), false);
-    impl_->editing = Impl::Editing::New;
+    impl_->beginNew();
 }
 void Recordset::set(int position, Value newValue) {
     field(position);
@@ -128,10 +136,10 @@ void Recordset::Update() {
     case Impl::Editing::None:
         throw DatabaseError(3020, "There is no Edit or AddNew to update");
     case Impl::Editing::Existing:
-        impl_->writeExisting();
+        impl_->file->named([&] { impl_->writeExisting(); });
         break;
     case Impl::Editing::New:
-        impl_->writeNew();
+        impl_->file->named([&] { impl_->writeNew(); });
         break;
     }
     impl_->editing = Impl::Editing::None;
@@ -144,12 +152,12 @@ void Recordset::CancelUpdate() {
 void Recordset::Delete() {
     impl_->requireRow();
     impl_->requireEditable();
-    impl_->removeRow();
+    impl_->file->named([&] { impl_->removeRow(); });
 }
 
 void Recordset::Requery() {
     impl_->requireOpen();
-    impl_->requery();
+    impl_->file->named([&] { impl_->requery(); });
 }
 void Recordset::Close() {
     impl_->requireOpen();

@@ -27,10 +27,14 @@ public:
     void MoveNext();
     void MovePrevious();
 
-    /// Searches from the first row, or from behind the current row. Where nothing is found NoMatch() is true and the
-    /// current row stays. Throws 3077 for a bad expression.
+    /// Search from the first row, from behind the current row, from the last row backward, from before the current row
+    /// backward. Where nothing is found NoMatch() is true and the current row stays. Throw 3077 for an expression that
+    /// cannot be read and 3070 for an unknown field; the current row stays. A search for a text or number in a column
+    /// goes through an index of that column, made by the first such search.
     void FindFirst(std::string_view expression);
     void FindNext(std::string_view expression);
+    void FindLast(std::string_view expression);
+    void FindPrevious(std::string_view expression);
     bool NoMatch() const;
 
     int fieldCount() const;
@@ -40,6 +44,7 @@ public:
     const Value& value(std::string_view field) const;
 
     void Edit();
+    /// The new row shows the defaults of the table from the start and its counter after Update().
     void AddNew();
     void set(int position, Value value);
     void set(std::string_view field, Value value);

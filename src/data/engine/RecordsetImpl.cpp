@@ -1,5 +1,6 @@
 #include "data/engine/RecordsetImpl.h"
 
+#include "data/engine/DefinitionCheck.h"
 #include "data/engine/RowValue.h"
 #include "data/jet/Emitter.h"
 #include "data/jet/Search.h"
@@ -81,11 +82,11 @@ const Field& Recordset::Impl::tableField(int column) const {
     throw DatabaseError(3164, "The field '" + shown.name + "' cannot be changed");
 }
 
-void Recordset::Impl::search(std::string_view expression, long from) {
-    from = std::max(from, 0L);
+void Recordset::Impl::search(std::string_view expression, long from, Direction direction) {
     const auto wanted = KeySearch::recognise(expression);
-    const KeyIndex* keys = wanted ? keysOf(find(wanted->field)) : nullptr;
-    const long found = keys ? keys->find(wanted->key, from) : searchByTest(expression, from);
+    const KeyIndex* keys = wanted ? keysOf(find(wanted->field), wanted->kind) : nullptr;
+    const long found =
+        keys ? searchByKey(*keys, *wanted, expression, from, direction) : searchByTest(expression, from, direction);
     editing = Editing::None;
     noMatch = found < 0;
     if (noMatch)
@@ -94,34 +95,61 @@ void Recordset::Impl::search(std::string_view expression, long from) {
     deleted = false;
 }
 
-const KeyIndex* Recordset::Impl::keysOf(int column) {
+const KeyIndex* Recordset::Impl::keysOf(int column, KeySearch::Kind kind) {
     if (column < 0)
         return nullptr;
     const auto type = program.columns[static_cast<std::size_t>(column)].type;
-    if (!type || !isText(*type))
+    const bool isOfKind =
+        kind == KeySearch::Kind::Text ? type && isText(*type) : type && isNumeric(*type) && *type != FieldType::Boolean;
+    if (!isOfKind)
         return nullptr;
-    auto [entry, isNew] = keys_.try_emplace(column);
-    std::optional<KeyIndex>& keys = entry->second;
-    if (isNew)
-        keys.emplace();
-    for (long row = 0; isNew && keys && row < rows; ++row) {
-        const Value& value = cell(row, column);
-        if (const auto* text = std::get_if<std::string>(&value.storage()))
-            keys->add(*text, row);
-        else if (!value.isNull())
-            keys.reset();
-    }
-    return keys ? &*keys : nullptr;
+    auto entry = keys_.find(column);
+    if (entry == keys_.end())
+        entry = keys_.emplace(column, makeKeys(column, kind)).first;
+    return entry->second ? &*entry->second : nullptr;
 }
 
-long Recordset::Impl::searchByTest(std::string_view expression, long from) {
-    if (!test_ || testText_ != expression) {
-        test_.reset();
-        test_.emplace(expression, [this](std::string_view name) { return find(name); });
-        testText_ = expression;
+std::optional<KeyIndex> Recordset::Impl::makeKeys(int column, KeySearch::Kind kind) const {
+    KeyIndex keys;
+    for (long row = 0; row < rows; ++row) {
+        const Value& value = cell(row, column);
+        const bool isOfKind = kind == KeySearch::Kind::Text ? value.isText() : value.isNumber();
+        if (!isOfKind && !value.isNull())
+            return std::nullopt;
+        keys.add(value, row);
     }
-    for (long row = from; row < rows; ++row) {
-        if (test_->matches([this, row](int column) -> const Value& { return cell(row, column); }))
+    return keys;
+}
+
+long Recordset::Impl::searchByKey(const KeyIndex& keys, const KeySearch& wanted, std::string_view expression, long from,
+                                  Direction direction) {
+    if (!wanted.alone)
+        compileTest(expression);
+    const bool forward = direction == Direction::Forward;
+    for (;; from += forward ? 1 : -1) {
+        from = forward ? keys.findForward(wanted.key, from) : keys.findBackward(wanted.key, from);
+        if (from < 0 || wanted.alone || passesTest(from))
+            return from;
+    }
+}
+
+void Recordset::Impl::compileTest(std::string_view expression) {
+    if (test_ && testText_ == expression)
+        return;
+    test_.reset();
+    test_.emplace(expression, [this](std::string_view name) { return find(name); });
+    testText_ = expression;
+}
+
+bool Recordset::Impl::passesTest(long row) const {
+    return test_->matches([this, row](int column) -> const Value& { return cell(row, column); });
+}
+
+long Recordset::Impl::searchByTest(std::string_view expression, long from, Direction direction) {
+    compileTest(expression);
+    const long step = direction == Direction::Forward ? 1 : -1;
+    for (long row = from; row >= 0 && row < rows; row += step) {
+        if (passesTest(row))
             return row;
     }
     return -1;
@@ -163,6 +191,17 @@ int Recordset::Impl::bindTouched(sqlite::Statement& statement) const {
     return parameter;
 }
 
+void Recordset::Impl::beginNew() {
+    buffer.assign(static_cast<std::size_t>(columns()), Value());
+    touched.assign(buffer.size(), false);
+    for (int column = 0; column < columns(); ++column) {
+        const auto at = static_cast<std::size_t>(column);
+        if (!program.columns[at].sourceColumn.empty())
+            buffer[at] = defaultOf(tableField(column));
+    }
+    editing = Editing::New;
+}
+
 void Recordset::Impl::writeExisting() {
     const std::string assignments = touchedColumns(" = ?");
     if (assignments.empty())
@@ -173,11 +212,14 @@ void Recordset::Impl::writeExisting() {
     update.step();
     if (file->connection().changes() == 0)
         throw DatabaseError(3167, "The record has been deleted");
-    for (int column = 0; column < columns(); ++column) {
-        cells[static_cast<std::size_t>(cursor * columns() + column)] = buffer[static_cast<std::size_t>(column)];
-        if (touched[static_cast<std::size_t>(column)])
-            keys_.erase(column);
+    for (auto& [column, keys] : keys_) {
+        const auto at = static_cast<std::size_t>(column);
+        if (!keys || !touched[at])
+            continue;
+        keys->remove(cell(cursor, column), cursor);
+        keys->add(buffer[at], cursor);
     }
+    std::copy(buffer.begin(), buffer.end(), cells.begin() + cursor * columns());
 }
 
 void Recordset::Impl::writeNew() {
@@ -193,10 +235,9 @@ void Recordset::Impl::writeNew() {
     const std::int64_t rowid = file->connection().lastInsertRowid();
     readDefaults(rowid);
     rowids.push_back(rowid);
-    for (auto& [column, index] : keys_) {
-        const auto* text = std::get_if<std::string>(&buffer[static_cast<std::size_t>(column)].storage());
-        if (index && text)
-            index->add(*text, rows);
+    for (auto& [column, keys] : keys_) {
+        if (keys)
+            keys->add(buffer[static_cast<std::size_t>(column)], rows);
     }
     for (Value& value : buffer)
         cells.push_back(std::move(value));

@@ -44,8 +44,11 @@ public:
     const Value& cell(long row, int column) const;
     /// The table's column behind a column of the rows; throws 3164 where it shows none.
     const Field& tableField(int column) const;
-    /// Goes to the first row from `from` on that the expression holds for.
-    void search(std::string_view expression, long from);
+    enum class Direction { Forward, Backward };
+    /// Goes to the nearest row from `from` on, itself included, that the expression holds for.
+    void search(std::string_view expression, long from, Direction direction);
+    /// Opens an empty row for editing, with the defaults of the table.
+    void beginNew();
     void requery();
     void writeExisting();
     void writeNew();
@@ -61,12 +64,19 @@ private:
     int bindTouched(sqlite::Statement& statement) const;
     /// What the table made of a new row: its defaults and numbers.
     void readDefaults(std::int64_t rowid);
-    /// Null where the column is no text or holds other values than texts.
-    const KeyIndex* keysOf(int column);
-    long searchByTest(std::string_view expression, long from);
+    /// Null where the values of the column are not of this kind.
+    const KeyIndex* keysOf(int column, KeySearch::Kind kind);
+    std::optional<KeyIndex> makeKeys(int column, KeySearch::Kind kind) const;
+    /// The row found, -1 for none.
+    long searchByKey(const KeyIndex& keys, const KeySearch& wanted, std::string_view expression, long from,
+                     Direction direction);
+    long searchByTest(std::string_view expression, long from, Direction direction);
+    /// Makes the test of an expression the current one.
+    void compileTest(std::string_view expression);
+    bool passesTest(long row) const;
 
-    /// Columns by their texts, made by the first search for a key and kept true by edits; nothing for a column that
-    /// holds other values.
+    /// Columns by their values, made by the first search for a key and kept true by edits; nothing for a column that
+    /// holds values of another kind than its own.
     std::map<int, std::optional<KeyIndex>> keys_;
     /// The last search that was no search for a key; FindNext repeats the expression of FindFirst.
     std::optional<jet::Search> test_;

@@ -33,6 +33,19 @@ void Workspace::Impl::detachUnused() {
     }
 }
 
+void Workspace::Impl::commitLevel(const std::string& sql) {
+    std::string paths; // asked before, as a commit that fails may have undone all
+    for (const auto& [path, file] : files_) {
+        if (connection->hasChanged(file->schema()))
+            paths += (paths.empty() ? ": '" : " or '") + path + "'";
+    }
+    try {
+        connection->execute(sql);
+    } catch (const DatabaseError& error) {
+        throw DatabaseError(error.number(), error.description() + paths);
+    }
+}
+
 void Workspace::Impl::invalidateSchemas() {
     for (const auto& [path, file] : files_)
         file->invalidate();
@@ -83,7 +96,15 @@ std::shared_ptr<Database> Workspace::createDatabase(const std::string& path, std
     const std::filesystem::path folder = std::filesystem::absolute(toPath(path), fault).parent_path();
     if (!std::filesystem::is_directory(folder, fault))
         throw DatabaseError(3044, "'" + toText(folder) + "' is not a valid folder");
-    auto file = impl_->attach(path, ConnectString::parse(connect).password, AttachedFile::Create::Yes);
+    std::shared_ptr<AttachedFile> file;
+    try {
+        file = impl_->attach(path, ConnectString::parse(connect).password, AttachedFile::Create::Yes);
+    } catch (...) {
+        // A piece of a file would stand in the way of the next attempt.
+        for (const char* ending : {"", "-journal"})
+            std::filesystem::remove(toPath(path + ending), fault);
+        throw;
+    }
     return std::make_shared<Database>(
         std::make_unique<Database::Impl>(shared_from_this(), std::move(file), path, false));
 }
@@ -93,13 +114,15 @@ std::shared_ptr<Database> Workspace::createDatabase(const std::string& path, std
 void Workspace::beginTrans() {
     impl_->connection->execute(impl_->transactionDepth == 0 ? "BEGIN" : "SAVEPOINT level");
     ++impl_->transactionDepth;
+    impl_->connection->expectTransaction(true);
 }
 
 void Workspace::commitTrans() {
     if (impl_->transactionDepth == 0)
         throw DatabaseError(3034, "There is no transaction to commit");
-    impl_->connection->execute(impl_->transactionDepth == 1 ? "COMMIT" : "RELEASE level");
+    impl_->commitLevel(impl_->transactionDepth == 1 ? "COMMIT" : "RELEASE level");
     --impl_->transactionDepth;
+    impl_->connection->expectTransaction(impl_->transactionDepth > 0);
     impl_->detachUnused();
 }
 
@@ -108,6 +131,8 @@ void Workspace::rollback() {
         throw DatabaseError(3034, "There is no transaction to roll back");
     const bool outermost = --impl_->transactionDepth == 0;
     // A fault such as a full disk may have ended the transaction already.
+    if (outermost)
+        impl_->connection->expectTransaction(false);
     if (impl_->connection->inTransaction())
         impl_->connection->execute(outermost ? "ROLLBACK" : "ROLLBACK TO level; RELEASE level");
     impl_->invalidateSchemas();

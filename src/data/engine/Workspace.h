@@ -29,7 +29,8 @@ public:
     /// Throws 3204 where the file already exists, 3044 where it cannot be made.
     std::shared_ptr<Database> createDatabase(const std::string& path, std::string_view connect = {});
 
-    /// One transaction over all files of the workspace. They nest.
+    /// One transaction over all files of the workspace. They nest. A fault of the disk may undo the whole of it at
+    /// once; every change then throws 3034 until rollback(), which also follows a commit that fails.
     void beginTrans();
     void commitTrans();
     void rollback();

@@ -22,6 +22,8 @@ public:
     /// Detaches the files that no handle, recordset or link uses any more. Inside a transaction they stay, as their
     /// changes are not final yet; a file opened again meanwhile is found here.
     void detachUnused();
+    /// Ends a level of a transaction. Errors name the files that it changed.
+    void commitLevel(const std::string& sql);
     /// Forgets what was read of all schemas, after changes were undone.
     void invalidateSchemas();
 

@@ -1,6 +1,7 @@
 #include "data/sqlite/Connection.h"
 
 #include "data/jet/Functions.h"
+#include "data/types/DatabaseError.h"
 #include "data/types/Value.h"
 
 #include <sqlite3.h>
@@ -50,6 +51,7 @@ Connection::~Connection() {
 }
 
 void Connection::execute(const std::string& sql) {
+    refuseWhereTransactionLost();
     const int code = sqlite3_exec(handle_, sql.c_str(), nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)
         raise(handle_, code);
@@ -63,6 +65,14 @@ std::int64_t Connection::lastInsertRowid() const {
 }
 bool Connection::inTransaction() const {
     return sqlite3_get_autocommit(handle_) == 0;
+}
+
+void Connection::refuseWhereTransactionLost() const {
+    if (expectsTransaction_ && !inTransaction())
+        throw DatabaseError(3034, "The transaction was undone after a fault of the disk; nothing of it is stored");
+}
+bool Connection::hasChanged(const std::string& schema) const {
+    return sqlite3_txn_state(handle_, schema.c_str()) == SQLITE_TXN_WRITE;
 }
 
 Savepoint::Savepoint(Connection& connection) : connection_(connection) {

@@ -32,10 +32,17 @@ public:
     std::int64_t changes() const;
     std::int64_t lastInsertRowid() const;
     bool inTransaction() const;
+    /// Whether a transaction is thought to be open. Where the library has undone it after a fault of the disk, every
+    /// further change throws 3034, so that none is stored without those before it.
+    void expectTransaction(bool expected) { expectsTransaction_ = expected; }
+    void refuseWhereTransactionLost() const;
+    /// Whether the open transaction has changed the file attached as `schema`.
+    bool hasChanged(const std::string& schema) const;
     sqlite3* handle() const { return handle_; }
 
 private:
     sqlite3* handle_ = nullptr;
+    bool expectsTransaction_ = false;
 };
 
 /// One prepared statement. Column and parameter positions: columns from 0, parameters from 1, as the library counts.

@@ -10,6 +10,14 @@ Statement::Statement(Connection& connection, std::string_view sql) : connection_
     const int code = sqlite3_prepare_v2(connection_, sql.data(), static_cast<int>(sql.size()), &handle_, nullptr);
     if (code != SQLITE_OK)
         raise(connection_, code);
+    if (sqlite3_stmt_readonly(handle_) == 0) {
+        try {
+            connection.refuseWhereTransactionLost();
+        } catch (...) {
+            sqlite3_finalize(handle_);
+            throw;
+        }
+    }
 }
 
 Statement::~Statement() {
