@@ -211,6 +211,9 @@ TEST_F(Recordsets, ShowWhatTheTableMakesOfANewRow) {
     const auto rows = database->openRecordset("Numbered");
     for (int i = 0; i < 2; ++i) {
         rows->AddNew();
+        EXPECT_EQ(rows->value("Name"), Value("none"));
+        EXPECT_EQ(rows->value("Ok"), Value(false));
+        EXPECT_TRUE(rows->value("N").isNull());
         rows->set("N", i);
         rows->Update();
     }
