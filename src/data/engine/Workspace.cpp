@@ -133,8 +133,14 @@ void Workspace::rollback() {
     // A fault such as a full disk may have ended the transaction already.
     if (outermost)
         impl_->connection->expectTransaction(false);
-    if (impl_->connection->inTransaction())
-        impl_->connection->execute(outermost ? "ROLLBACK" : "ROLLBACK TO level; RELEASE level");
+    if (impl_->connection->inTransaction()) {
+        try {
+            impl_->connection->execute(outermost ? "ROLLBACK" : "ROLLBACK TO level; RELEASE level");
+        } catch (const DatabaseError&) {
+            if (impl_->connection->inTransaction()) // where a level cannot be undone alone, all goes
+                impl_->connection->execute("ROLLBACK");
+        }
+    }
     impl_->invalidateSchemas();
     impl_->detachUnused();
 }

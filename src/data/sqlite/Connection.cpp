@@ -83,8 +83,11 @@ Savepoint::~Savepoint() {
     if (!open_)
         return;
     // A fault such as a full disk may have ended the whole transaction already.
-    if (sqlite3_get_autocommit(connection_.handle()) == 0)
-        sqlite3_exec(connection_.handle(), "ROLLBACK TO step; RELEASE step", nullptr, nullptr, nullptr);
+    if (sqlite3_get_autocommit(connection_.handle()) != 0)
+        return;
+    // Where even this fails, all must go, so that nothing half done is stored later and the file is not kept locked.
+    if (sqlite3_exec(connection_.handle(), "ROLLBACK TO step; RELEASE step", nullptr, nullptr, nullptr) != SQLITE_OK)
+        sqlite3_exec(connection_.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
 
 void Savepoint::release() {

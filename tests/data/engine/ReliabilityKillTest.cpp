@@ -24,7 +24,7 @@ constexpr int smallCache = 20; ///< pages; a change of thousands of rows then re
 
 int trialsWanted() {
     const char* text = std::getenv("CALLSCOPE_KILL_TRIALS");
-    return text ? std::atoi(text) : 270;
+    return text ? std::atoi(text) : 216;
 }
 
 /// A process that opens the file, says so, makes the change and says so. Killed where a delay is given.

@@ -19,6 +19,20 @@ void lay(const std::string& folder, const DiskImage& image) {
         std::ofstream(folder + "/" + name, std::ios::binary) << bytes;
 }
 
+/// At most `wanted` of them, spread over the whole change.
+std::vector<DiskImage> someOf(std::vector<DiskImage> images, std::size_t wanted) {
+    if (allMomentsWanted() || images.size() <= wanted)
+        return images;
+    std::vector<DiskImage> some;
+    std::mt19937 random(1);
+    for (std::size_t i = 0; i < wanted; ++i) {
+        const std::size_t from = i * images.size() / wanted;
+        const std::size_t to = (i + 1) * images.size() / wanted;
+        some.push_back(std::move(images[from + random() % (to - from)]));
+    }
+    return some;
+}
+
 } // namespace
 
 TEST(PowerLoss, LeavesTheFileAsBeforeOrAsAfter) {
@@ -40,10 +54,10 @@ TEST(PowerLoss, LeavesTheFileAsBeforeOrAsAfter) {
                     const auto database = openAlone(path, kind.connect, cachePages);
                     change.run(*database);
                 }
-                const std::vector<DiskImage> losses = storage.stopRecording();
+                const std::vector<DiskImage> losses = someOf(storage.stopRecording(), kind.connect.empty() ? 30 : 6);
                 const std::string after = stateOf(path, kind.connect);
                 ASSERT_NE(before, after) << change.name;
-                ASSERT_GT(losses.size(), 10u) << change.name << ": nothing was synced";
+                ASSERT_GT(losses.size(), 4u) << change.name << ": nothing was synced";
                 for (std::size_t i = 0; i < losses.size(); ++i) {
                     // The link of the files leads to the base, which nothing happens to.
                     lay(lost, losses[i]);

@@ -4,6 +4,7 @@
 #include "data/sqlite/Connection.h"
 #include "data/types/DatabaseError.h"
 
+#include <cstdlib>
 #include <filesystem>
 
 const std::vector<Change>& changes() {
@@ -66,6 +67,10 @@ std::shared_ptr<Database> openAlone(const std::string& path, const std::string& 
     if (cachePages > 0)
         database->connection().execute("PRAGMA " + database->schema() + ".cache_size = " + std::to_string(cachePages));
     return database;
+}
+
+bool allMomentsWanted() {
+    return std::getenv("CALLSCOPE_ALL_MOMENTS") != nullptr;
 }
 
 namespace {

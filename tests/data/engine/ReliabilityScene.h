@@ -26,6 +26,9 @@ const std::vector<FileKind>& fileKinds();
 /// Makes a file with `calls` calls, their areas, an index and a link.
 void makeCallsFile(const std::string& path, const std::string& connect, int calls);
 
+/// Whether every moment is to be tried, however long that takes: CALLSCOPE_ALL_MOMENTS in the environment.
+bool allMomentsWanted();
+
 /// A file opened in a workspace of its own. `cachePages`: how many pages stay in memory; 0 leaves it as it is.
 std::shared_ptr<Database> openAlone(const std::string& path, const std::string& connect, int cachePages = 0);
 
