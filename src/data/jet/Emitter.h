@@ -66,6 +66,10 @@ private:
     std::string keyText(const Expression& expression) const;
     std::string tableWithKeys(const Source& source);
 
+    // DistinctJoins.cpp
+    void findDistinctJoins(const Select& select);
+    std::string distinctValues(const Source& source, int column) const;
+
     // ExpressionEmitter.cpp
     std::string text(const Expression& expression);
     std::string number(const Expression& expression);
@@ -92,6 +96,8 @@ private:
 
     /// Calculated texts by which a table is joined, as columns "%key0", "%key1" … of it.
     std::map<const Source*, std::vector<const Expression*>> keys_;
+    /// Tables of which the distinct values of one column are enough, with that column.
+    std::map<const Source*, int> distinctColumns_;
 };
 
 /// Whether a logical operator works on numbers, bit by bit.

@@ -132,8 +132,10 @@ std::string Emitter::tableWithKeys(const Source& source) {
     const std::string name = quoteIdentifier(source.name);
     const std::string plain = quoteIdentifier(table.schema) + "." + quoteIdentifier(table.name) + " AS " + name;
     const auto keys = keys_.find(&source);
-    if (keys == keys_.end())
-        return plain;
+    if (keys == keys_.end()) {
+        const auto distinct = distinctColumns_.find(&source);
+        return distinct == distinctColumns_.end() ? plain : distinctValues(source, distinct->second);
+    }
     std::string sql = "(SELECT *";
     for (std::size_t i = 0; i < keys->second.size(); ++i)
         sql += ", CAST(" + value(*keys->second[i]) + " AS TEXT) COLLATE JET AS \"%key" + std::to_string(i) + "\"";

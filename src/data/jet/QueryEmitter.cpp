@@ -138,6 +138,7 @@ std::string Emitter::clauses(const Select& select, const std::string& alsoWhere)
     std::string sql;
     if (!select.from.empty()) {
         findKeys(select);
+        findDistinctJoins(select);
         sql += " FROM " + from(select.from);
     }
     if (select.where)

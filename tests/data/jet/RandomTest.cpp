@@ -215,6 +215,9 @@ TEST(RandomQueries, SetsJoinsAndGroupsAreThoseOfTheLibrary) {
         const std::string statements[] = {
             "SELECT P.k, Q.n, S.t FROM " + nested + where + " ORDER BY P.k, Q.n, S.t, P.n, Q.k, S.k",
             "SELECT DISTINCT P.t, Q.n FROM " + from + where + " ORDER BY P.t, Q.n",
+            "SELECT DISTINCT P.t, P.n FROM " + from + " WHERE " +
+                maker.pick({"Q.k Is Null", "P.n < 3", "Not Q.k Is Null Or P.n = 2", "Q.k Is Null And Q.n Is Null"}) +
+                " ORDER BY P.t, P.n",
             "SELECT P.n, Count(*) AS c, Max(Q.k) AS m FROM " + from + where +
                 " GROUP BY P.n HAVING Count(*) > 2 ORDER BY P.n DESC",
             "SELECT P.k, P.n FROM " + from + where + maker.pick({" UNION ", " UNION ALL "}) +
