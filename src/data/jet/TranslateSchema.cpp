@@ -150,7 +150,9 @@ void alterColumns(Program& program, const Table& table, const AlterTable& alter,
         type.size = old.size;
         altered.columns[at] = column.field;
         altered.columns[at].name = old.name;
-        values[at] = convertedText(values[at], type, altered.columns[at], column.position);
+        // A narrower text column keeps the texts that it has; only new ones must fit.
+        if (!isText(old.type) || !isText(column.field.type))
+            values[at] = convertedText(values[at], type, altered.columns[at], column.position);
     }
     std::string list;
     for (const std::string& value : values)
