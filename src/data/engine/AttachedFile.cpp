@@ -192,6 +192,17 @@ void AttachedFile::addLink(const Link& link) {
     invalidate();
 }
 
+void AttachedFile::changeLink(const Link& link) {
+    sqlite::Statement change(*connection_,
+                             "UPDATE " + schema_ + ".MSysLinks SET SourceTable = ?, Connect = ? WHERE Name = ?");
+    change.bind(1, link.sourceTable);
+    change.bind(2, link.connect);
+    change.bind(3, link.name);
+    change.step();
+    held_.clear(); // other links open theirs again when they are used
+    invalidate();
+}
+
 void AttachedFile::removeLink(std::string_view name) {
     sqlite::Statement remove(*connection_, "DELETE FROM " + schema_ + ".MSysLinks WHERE Name = ?");
     remove.bind(1, name);

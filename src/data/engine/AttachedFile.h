@@ -41,6 +41,8 @@ public:
     };
     const std::map<std::string, Link>& links();
     void addLink(const Link& link);
+    /// Gives the link of this name its new source.
+    void changeLink(const Link& link);
     void removeLink(std::string_view name);
     /// Counts how often the schema was read anew.
     std::int64_t generation() const { return generation_; }

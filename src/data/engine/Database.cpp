@@ -2,7 +2,10 @@
 
 #include "data/engine/DatabaseImpl.h"
 #include "data/engine/RecordsetImpl.h"
+#include "data/engine/WorkspaceImpl.h"
 #include "data/types/DatabaseError.h"
+
+#include <sqlite3.h>
 
 Database::Database(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 Database::~Database() = default;
@@ -13,6 +16,10 @@ std::string Database::name() const {
 }
 bool Database::isOpen() const {
     return impl_->attached != nullptr;
+}
+bool Database::isReadOnly() const {
+    const std::string name = schema();
+    return impl_->readOnly || sqlite3_db_readonly(connection().handle(), name.c_str()) == 1;
 }
 void Database::close() {
     impl_->file();
@@ -32,6 +39,7 @@ void Database::execute(std::string_view statement) {
 }
 
 long Database::recordsAffected() const {
+    impl_->file();
     return impl_->recordsAffected;
 }
 
@@ -54,6 +62,8 @@ std::shared_ptr<Recordset> Database::open(jet::Program program) {
     if (impl_->readOnly)
         program.updatable.reset();
     auto rows = std::make_unique<Recordset::Impl>(impl_->attached, std::move(program));
+    if (rows->program.updatable)
+        rows->edited = impl_->workspace->impl().attachedAs(rows->program.updatable->schema);
     impl_->attached->named([&] { rows->query(); });
     return std::make_shared<Recordset>(std::move(rows));
 }
@@ -64,6 +74,7 @@ TableDefs& Database::tableDefs() {
 }
 
 TableDef Database::createTableDef(std::string tableName) const {
+    impl_->file();
     TableDef definition;
     definition.name = std::move(tableName);
     return definition;

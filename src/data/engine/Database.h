@@ -13,8 +13,9 @@ class Connection;
 }
 
 /// A handle on one database file of a workspace. Handles on the same file are counted; the file is let go with the last
-/// of them. After close() every member throws DatabaseError 3420 (object invalid or no longer set). Used on the
-/// workspace's thread.
+/// of them. After close() every member but isOpen() and workspace() throws DatabaseError 3420 (object invalid or no
+/// longer set), those of its table list too; its recordsets live on, as do the other handles. A change waits for at
+/// most two seconds for another process to let go of the file and then throws 3356. Used on the workspace's thread.
 class Database {
 public:
     class Impl;
@@ -26,6 +27,7 @@ public:
     /// Full path of the file.
     std::string name() const;
     bool isOpen() const;
+    bool isReadOnly() const; ///< the handle or the file itself refuses changes
     void close();
 
     /// Runs one statement that is no query, whole or not at all. Throws DatabaseError with number, words and position.

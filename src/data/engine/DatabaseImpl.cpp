@@ -186,19 +186,49 @@ void Database::Impl::remove(const TableDef& definition) {
     file().invalidate();
 }
 
-void Database::Impl::addField(const std::string& name, const Field& field) {
+void Database::Impl::changeLink(const TableDef& definition) {
     refuseWhereReadOnly();
-    const auto table = findTable(name);
+    const auto found = file().links().find(foldText(definition.name));
+    if (found == file().links().end())
+        throw DatabaseError(3265, "There is no attached table '" + definition.name + "'");
+    const AttachedFile::Link link{found->second.name, definition.sourceTableName, definition.connect};
+    followLink(file(), link, 0); // a link that leads nowhere is refused
+    file().named([&] { file().changeLink(link); });
+}
+
+jet::Table Database::Impl::existingTable(const std::string& name) {
+    auto table = findTable(name);
     if (!table)
         throw DatabaseError(3078, "Could not find the table or query '" + name + "'");
-    for (const Field& other : table->columns) {
+    return std::move(*table);
+}
+
+void Database::Impl::addField(const std::string& name, const Field& field) {
+    refuseWhereReadOnly();
+    const jet::Table table = existingTable(name);
+    for (const Field& other : table.columns) {
         if (equalText(other.name, field.name))
             throw DatabaseError(3191, "Field '" + field.name + "' already exists in table '" + name + "'");
     }
-    const std::string sql = "ALTER TABLE " + table->schema + "." + quoteIdentifier(table->name) + " ADD COLUMN " +
-                            columnDefinition(checkedField(field));
+    const Field checked = checkedField(field);
+    if (checked.counter)
+        throw DatabaseError(3259, "The counter '" + field.name + "' can be made with its table only");
+    if (checked.required && !checked.defaultValue && checked.type != FieldType::Boolean)
+        throw DatabaseError(3314, "The field '" + field.name + "' is required and has no default for the rows of '" +
+                                      name + "'");
+    const std::string sql =
+        "ALTER TABLE " + table.schema + "." + quoteIdentifier(table.name) + " ADD COLUMN " + columnDefinition(checked);
     file().named([&] { file().connection().execute(sql); });
     file().invalidate();
+}
+
+void Database::Impl::removeField(const std::string& name, const std::string& field) {
+    const jet::Table table = existingTable(name);
+    const bool exists = std::any_of(table.columns.begin(), table.columns.end(),
+                                    [&](const Field& other) { return equalText(other.name, field); });
+    if (!exists)
+        throw DatabaseError(3265, "There is no field '" + field + "' in table '" + name + "'");
+    file().named([&] { run(jet::translate("ALTER TABLE [" + name + "] DROP COLUMN [" + field + "]", *this)); });
 }
 
 std::int64_t Database::Impl::changeStamp() {

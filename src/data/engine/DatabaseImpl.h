@@ -22,7 +22,9 @@ public:
     std::vector<Field> fieldsOfLink(const TableDef& link) override;
     void create(const TableDef& definition) override;
     void remove(const TableDef& definition) override;
+    void changeLink(const TableDef& link) override;
     void addField(const std::string& table, const Field& field) override;
+    void removeField(const std::string& table, const std::string& field) override;
     std::int64_t changeStamp() override;
 
     ~Impl() override;
@@ -45,4 +47,6 @@ private:
     std::optional<jet::Table> followLink(AttachedFile& from, const AttachedFile::Link& link, int depth);
     std::optional<jet::Table> findIn(AttachedFile& from, std::string_view name, int depth);
     AttachedFile& otherFile(std::string_view otherPath);
+    /// Throws 3078.
+    jet::Table existingTable(const std::string& name);
 };

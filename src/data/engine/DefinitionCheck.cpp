@@ -93,5 +93,9 @@ TableDef checkedDefinition(const TableDef& definition) {
             throw DatabaseError(3191, "Field '" + field.name + "' is defined twice in table '" + definition.name + "'");
         checked.fields.push_back(checkedField(field));
     }
+    const auto counters =
+        std::count_if(checked.fields.begin(), checked.fields.end(), [](const Field& f) { return f.counter; });
+    if (counters > 1)
+        throw DatabaseError(3292, "Table '" + definition.name + "' has more than one counter");
     return checked;
 }

@@ -20,5 +20,6 @@ Value defaultOf(const Field& field);
 /// a character that statements could not write.
 void checkTableName(std::string_view name);
 
-/// All of a table's fields checked. Throws also 3264 where there are none and 3191 where two have the same name.
+/// All of a table's fields checked. Throws also 3264 where there are none and 3191 where two have the same name and
+/// 3292 for a second counter.
 TableDef checkedDefinition(const TableDef& definition);

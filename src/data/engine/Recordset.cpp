@@ -162,6 +162,7 @@ void Recordset::Requery() {
 void Recordset::Close() {
     impl_->requireOpen();
     impl_->file.reset();
+    impl_->edited.reset();
     impl_->cells = {};
     impl_->rowids = {};
 }

@@ -53,6 +53,7 @@ public:
     /// stays open for another try.
     void Update();
     void CancelUpdate();
+    /// Throws 3167 where the row has been deleted meanwhile. After it there is no current row until the next move.
     void Delete();
     /// Reads the rows anew; the cursor goes to the first. Throws 3078 where their table has been dropped, and leaves
     /// the rows as they were.

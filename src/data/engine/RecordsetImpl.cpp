@@ -275,6 +275,8 @@ void Recordset::Impl::removeRow() {
     sqlite::Statement remove(file->connection(), "DELETE FROM " + tableName() + " WHERE " + rowName() + " = ?");
     remove.bind(1, rowids[row]);
     remove.step();
+    if (file->connection().changes() == 0)
+        throw DatabaseError(3167, "The record has been deleted");
     const auto first = cells.begin() + static_cast<std::ptrdiff_t>(row * static_cast<std::size_t>(columns()));
     cells.erase(first, first + columns());
     rowids.erase(rowids.begin() + static_cast<std::ptrdiff_t>(row));

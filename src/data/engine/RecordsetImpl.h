@@ -21,7 +21,8 @@ public:
     /// Reads all rows; the cursor goes to the first.
     void query();
 
-    std::shared_ptr<AttachedFile> file; ///< null after Close()
+    std::shared_ptr<AttachedFile> file;   ///< null after Close()
+    std::shared_ptr<AttachedFile> edited; ///< that whose rows can be edited, which a link may have led to
     jet::Program program;
     std::vector<Value> cells;         ///< row × column
     std::vector<std::int64_t> rowids; ///< of the base table, where the rows can be edited

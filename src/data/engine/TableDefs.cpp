@@ -60,6 +60,16 @@ void TableDefs::appendField(std::string_view table, const Field& field) {
     refresh();
 }
 
+void TableDefs::refreshLink(const TableDef& link) {
+    source_.changeLink(link);
+    refresh();
+}
+
+void TableDefs::removeField(std::string_view table, std::string_view field) {
+    source_.removeField(std::string(table), std::string(field));
+    refresh();
+}
+
 void TableDefs::refreshIfChanged() {
     if (source_.changeStamp() != stamp_)
         refresh();

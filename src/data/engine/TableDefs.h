@@ -32,7 +32,9 @@ public:
         virtual std::vector<Field> fieldsOfLink(const TableDef& link) = 0;
         virtual void create(const TableDef& definition) = 0;
         virtual void remove(const TableDef& definition) = 0;
+        virtual void changeLink(const TableDef& link) = 0;
         virtual void addField(const std::string& table, const Field& field) = 0;
+        virtual void removeField(const std::string& table, const std::string& field) = 0;
         /// A number that changes whenever the definitions may have.
         virtual std::int64_t changeStamp() = 0;
     };
@@ -49,8 +51,14 @@ public:
     void append(const TableDef& definition);
     /// Drops the table, or the link alone. Throws 3265 where there is none.
     void remove(std::string_view name);
-    /// Adds a column behind the others. Throws 3191 where it exists.
+    /// Leads a link of this name to the source that the definition gives. Throws 3265 where there is no such link, and
+    /// the error of the new source where that cannot be reached; the link then stays as it was.
+    void refreshLink(const TableDef& link);
+    /// Adds a column behind the others. Throws 3191 where it exists, 3314 where it is required but has no default for
+    /// the rows that are there, 3259 for a counter, which can be made with its table only.
     void appendField(std::string_view table, const Field& field);
+    /// Drops a column. Throws 3265 where there is none, 3280 where it is part of an index, 3293 for the only one.
+    void removeField(std::string_view table, std::string_view field);
 
 private:
     void refreshIfChanged();

@@ -5,6 +5,7 @@
 #include "data/engine/WorkspaceImpl.h"
 #include "data/types/DatabaseError.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace {
@@ -22,6 +23,12 @@ std::string canonicalPath(const std::string& path) {
 
 std::shared_ptr<AttachedFile> Workspace::Impl::attached(const std::string& path) {
     const auto found = files_.find(canonicalPath(path));
+    return found == files_.end() ? nullptr : found->second;
+}
+
+std::shared_ptr<AttachedFile> Workspace::Impl::attachedAs(std::string_view schema) const {
+    const auto found = std::find_if(files_.begin(), files_.end(),
+                                    [&](const auto& file) { return file.second->schema() == schema; });
     return found == files_.end() ? nullptr : found->second;
 }
 

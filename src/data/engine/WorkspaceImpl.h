@@ -19,6 +19,9 @@ public:
     /// The attached file at `path` where a handle or link has it open, else null.
     std::shared_ptr<AttachedFile> attached(const std::string& path);
 
+    /// The attached file of this schema name, else null.
+    std::shared_ptr<AttachedFile> attachedAs(std::string_view schema) const;
+
     /// Detaches the files that no handle, recordset or link uses any more. Inside a transaction they stay, as their
     /// changes are not final yet; a file opened again meanwhile is found here.
     void detachUnused();

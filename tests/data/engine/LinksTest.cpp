@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <functional>
+
 namespace {
 
 class Links : public testing::Test {
@@ -24,8 +27,12 @@ protected:
     }
 
     long faultOf(const std::string& statement) {
+        return faultOf([&] { system->openRecordset(statement); });
+    }
+
+    long faultOf(const std::function<void()>& action) {
         try {
-            system->openRecordset(statement);
+            action();
             return 0;
         } catch (const DatabaseError& error) {
             lastWords = error.description();
@@ -89,6 +96,71 @@ TEST_F(Links, TablesOfOtherFilesAreReachedByTheirPath) {
     EXPECT_EQ(system->openRecordset("TblCopy")->value("1141").asText(), "1224");
     system->execute("INSERT INTO [" + projectPath + "].[TblTeleItem] (Calls) SELECT Calls FROM TblCopy");
     EXPECT_EQ(system->openRecordset("TblTeleItem_Link")->RecordCount(), 2);
+}
+
+TEST_F(Links, MayBeLedToAnotherFile) {
+    const std::string april = folder.file("April.mdb");
+    workspace->createDatabase(april)->execute("SELECT * INTO TblCalls FROM [" + projectPath + "].[TblTeleItem]");
+    TableDef moved = *system->tableDefs().find("TblTeleItem_Link");
+    moved.connect = "MS Access;DATABASE=" + folder.file("none.mdb");
+    EXPECT_EQ(faultOf([&] { system->tableDefs().refreshLink(moved); }), 3024);
+    moved.connect = "MS Access;DATABASE=" + april;
+    EXPECT_EQ(faultOf([&] { system->tableDefs().refreshLink(moved); }), 3078);
+    EXPECT_EQ(system->openRecordset("TblTeleItem_Link")->RecordCount(), 1);
+    moved.sourceTableName = "TblCalls";
+    system->tableDefs().refreshLink(moved);
+    std::filesystem::remove(projectPath);
+    EXPECT_EQ(system->openRecordset("TblTeleItem_Link")->value("1141").asText(), "1224");
+    EXPECT_EQ(system->tableDefs().find("TblTeleItem_Link")->sourceTableName, "TblCalls");
+    moved.name = "Nothing";
+    EXPECT_EQ(faultOf([&] { system->tableDefs().refreshLink(moved); }), 3265);
+}
+
+TEST_F(Links, LeadThroughLinksButNotInARing) {
+    const auto third = workspace->createDatabase(folder.file("third.mdb"));
+    TableDef onward = third->createTableDef("Onward");
+    onward.connect = "MS Access;DATABASE=" + folder.file("ukmap.mdb") + ";PWD=s";
+    onward.sourceTableName = "TblTeleItem_Link";
+    third->tableDefs().append(onward);
+    third->execute("UPDATE Onward SET Calls = 9");
+    EXPECT_EQ(system->openRecordset("TblTeleItem_Link")->value("Calls"), Value(9));
+    TableDef ring = *system->tableDefs().find("TblTeleItem_Link");
+    ring.connect = "MS Access;DATABASE=" + folder.file("third.mdb");
+    ring.sourceTableName = "Onward";
+    system->tableDefs().refreshLink(ring);
+    EXPECT_EQ(faultOf("TblTeleItem_Link"), 3078);
+    system->tableDefs().remove("TblTeleItem_Link");
+    EXPECT_EQ(faultOf("TblTeleItem_Link"), 3078);
+}
+
+TEST_F(Links, WhoseSourceOrPasswordHasChangedSayWhichLinkItIs) {
+    {
+        const auto project = workspace->openDatabase(projectPath, Workspace::Access::Shared, "MS Access;PWD=p");
+        project->execute("SELECT * INTO Other FROM TblTeleItem");
+        project->execute("DROP TABLE TblTeleItem");
+    }
+    EXPECT_EQ(faultOf("SELECT * FROM TblTeleItem_Link"), 3078);
+    EXPECT_NE(lastWords.find("TblTeleItem_Link"), std::string::npos) << lastWords;
+    EXPECT_TRUE(system->tableDefs().find("TblTeleItem_Link")->fields.empty());
+    system->close();
+    std::filesystem::remove(projectPath);
+    workspace->createDatabase(projectPath, "MS Access;PWD=new")->execute("CREATE TABLE TblTeleItem (N Long)");
+    system = workspace->openDatabase(folder.file("ukmap.mdb"), Workspace::Access::Shared, "MS Access;PWD=s");
+    EXPECT_EQ(faultOf("SELECT * FROM TblTeleItem_Link"), 3031);
+    EXPECT_NE(lastWords.find("TblTeleItem_Link"), std::string::npos) << lastWords;
+    EXPECT_NE(lastWords.find(projectPath), std::string::npos) << lastWords;
+}
+
+TEST_F(Links, ARecordsetKeepsTheFileOpenThatItEdits) {
+    const auto rows = system->openRecordset("TblTeleItem_Link");
+    const auto path = system->openRecordset("SELECT * FROM [" + projectPath + "].[TblTeleItem]");
+    system->tableDefs().remove("TblTeleItem_Link");
+    workspace->createDatabase(folder.file("b.mdb"))->close();
+    rows->Edit();
+    rows->set("Calls", 8);
+    rows->Update();
+    path->Requery();
+    EXPECT_EQ(path->value("Calls"), Value(8));
 }
 
 } // namespace

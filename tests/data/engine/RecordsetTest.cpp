@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -124,12 +125,54 @@ TEST_F(Recordsets, RefuseWhatTheColumnCannotTake) {
 
 TEST_F(Recordsets, AClosedHandleIsNoLongerSet) {
     const auto rows = database->openRecordset("TblTV");
+    rows->Edit();
     rows->Close();
-    EXPECT_EQ(faultOf([&] { rows->MoveNext(); }), 3420);
+    const std::function<void()> members[] = {
+        [&] { rows->EOF_(); },        [&] { rows->BOF_(); },
+        [&] { rows->RecordCount(); }, [&] { rows->AbsolutePosition(); },
+        [&] { rows->MoveFirst(); },   [&] { rows->MoveLast(); },
+        [&] { rows->MoveNext(); },    [&] { rows->MovePrevious(); },
+        [&] { rows->NoMatch(); },     [&] { rows->FindFirst("TotalCalls1 = 3"); },
+        [&] { rows->fieldCount(); },  [&] { rows->FindNext("TVRegion = 'Wales'"); },
+        [&] { rows->field(0); },      [&] { rows->FindLast("TVRegion Like 'W*'"); },
+        [&] { rows->value(0); },      [&] { rows->FindPrevious("("); },
+        [&] { rows->value("None"); }, [&] { rows->set(0, "x"); },
+        [&] { rows->Edit(); },        [&] { rows->set("None", "x"); },
+        [&] { rows->AddNew(); },      [&] { rows->CancelUpdate(); },
+        [&] { rows->Update(); },      [&] { rows->Delete(); },
+        [&] { rows->Requery(); },     [&] { rows->Close(); },
+    };
+    for (std::size_t i = 0; i < std::size(members); ++i)
+        EXPECT_EQ(faultOf(members[i]), 3420) << "member " << i;
+
+    TableDefs& tables = database->tableDefs();
+    const TableDef definition = *tables.find("TblTV");
     database->close();
-    EXPECT_EQ(faultOf([&] { database->execute("DELETE * FROM TblTV"); }), 3420);
-    EXPECT_EQ(faultOf([&] { database->openRecordset("TblTV"); }), 3420);
-    EXPECT_EQ(faultOf([&] { database->tableDefs(); }), 3420);
+    const std::function<void()> ofDatabase[] = {
+        [&] { database->close(); },
+        [&] { database->name(); },
+        [&] { database->execute("DELETE * FROM TblTV"); },
+        [&] { database->recordsAffected(); },
+        [&] { database->openRecordset("TblTV"); },
+        [&] { database->run("DELETE * FROM TblTV"); },
+        [&] { database->translate("TblTV"); },
+        [&] { database->tableDefs(); },
+        [&] { database->createTableDef("T"); },
+        [&] { database->connection(); },
+        [&] { database->schema(); },
+        [&] { tables.refresh(); },
+        [&] { tables.count(); },
+        [&] { tables.at(0); },
+        [&] { tables.find("TblTV"); },
+        [&] { tables.append(definition); },
+        [&] { tables.remove("TblTV"); },
+        [&] { tables.refreshLink(definition); },
+        [&] { tables.appendField("TblTV", field("X", FieldType::Long)); },
+        [&] { tables.removeField("TblTV", "Cost1"); },
+    };
+    for (std::size_t i = 0; i < std::size(ofDatabase); ++i)
+        EXPECT_EQ(faultOf(ofDatabase[i]), 3420) << "member of the database " << i;
+    EXPECT_FALSE(database->isOpen());
 }
 
 TEST_F(Recordsets, AStatementThatFailsHalfwayChangesNothing) {
@@ -310,6 +353,38 @@ TEST_F(Recordsets, EmptyOnesHaveNoCurrentRowButTakeNewOnes) {
     EXPECT_EQ(rows->value("TVRegion"), Value("Ulster"));
     rows->Update();
     EXPECT_EQ(rows->RecordCount(), 1);
+}
+
+TEST_F(Recordsets, AppendToTheTableBehindAConditionAndOverwriteWhatAStatementChanged) {
+    const auto rows = database->openRecordset("SELECT TVRegion, TotalCalls1 FROM TblTV WHERE TotalCalls1 > 10");
+    rows->AddNew();
+    rows->set("TVRegion", "Ulster");
+    rows->set("TotalCalls1", 1);
+    rows->Update();
+    EXPECT_EQ(rows->RecordCount(), 2);
+    EXPECT_EQ(rows->value("TVRegion"), Value("London"));
+    database->execute("UPDATE TblTV SET TotalCalls1 = 99, Cost1 = 7 WHERE TVRegion = 'London'");
+    EXPECT_EQ(rows->value("TotalCalls1"), Value(40));
+    rows->Edit();
+    rows->set("TotalCalls1", 41);
+    rows->Update();
+    const auto london = database->openRecordset("SELECT * FROM TblTV WHERE TVRegion = 'London'");
+    EXPECT_EQ(london->value("TotalCalls1"), Value(41));
+    EXPECT_EQ(london->value("Cost1"), Value(Money{70000}));
+    rows->Requery();
+    EXPECT_EQ(rows->RecordCount(), 1);
+}
+
+TEST_F(Recordsets, ARowThatIsGoneCannotBeDeletedTwiceButLeavesTheRows) {
+    const auto rows = database->openRecordset("TblTV");
+    database->execute("DELETE * FROM TblTV WHERE TVRegion = 'Border'");
+    EXPECT_EQ(faultOf([&] { rows->Delete(); }), 3167);
+    EXPECT_EQ(rows->RecordCount(), 3);
+    rows->MoveNext();
+    rows->Delete();
+    EXPECT_EQ(faultOf([&] { rows->Delete(); }), 3021);
+    EXPECT_EQ(faultOf([&] { rows->Edit(); }), 3021);
+    EXPECT_EQ(database->openRecordset("TblTV")->RecordCount(), 1);
 }
 
 } // namespace

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 namespace {
 
 Field field(const char* name, FieldType type, int size = 0) {
@@ -136,6 +139,80 @@ TEST_F(TableDefinitions, SeeTablesThatStatementsMakeAndDrop) {
     EXPECT_THROW(tables.at(0), DatabaseError);
     database->close();
     EXPECT_THROW(tables.refresh(), DatabaseError);
+}
+
+TEST_F(TableDefinitions, FieldsComeAndGoUnderTheRowsThatAreThere) {
+    database->execute("CREATE TABLE T (A Text(5), B Long, C Text(5))");
+    database->execute("INSERT INTO T VALUES ('a', 1, 'c')");
+    database->execute("CREATE INDEX ByC ON T (C)");
+    TableDefs& tables = database->tableDefs();
+    tables.appendField("T", Field{"Note", FieldType::Text, 9, true, false, "'none'"});
+    tables.appendField("T", Field{"Free", FieldType::Memo, 0, false, false, {}});
+    tables.appendField("T", field("Ok", FieldType::Boolean));
+    tables.removeField("T", "b");
+    const auto row = database->openRecordset("T");
+    EXPECT_EQ(row->fieldCount(), 5);
+    EXPECT_EQ(row->value("Note"), Value("none"));
+    EXPECT_EQ(row->value("Ok"), Value(false));
+    EXPECT_TRUE(row->value("Free").isNull());
+    Field counter = field("Id", FieldType::Long);
+    counter.counter = true;
+    const std::pair<long, std::function<void()>> refused[] = {
+        {3265, [&] { tables.removeField("T", "B"); }},
+        {3280, [&] { tables.removeField("T", "C"); }},
+        {3078, [&] { tables.removeField("None", "C"); }},
+        {3078, [&] { tables.appendField("None", field("C", FieldType::Long)); }},
+        {3314,
+         [&] {
+             tables.appendField("T", Field{"Must", FieldType::Long, 0, true, true, {}});
+         }},
+        {3259, [&] { tables.appendField("T", counter); }},
+        {3125, [&] { tables.appendField("T", field("a]b", FieldType::Long)); }},
+        {3315, [&] { database->execute("UPDATE T SET Free = ''"); }},
+        {3315, [&] { database->execute("UPDATE T SET Note = ''"); }},
+        {3314, [&] { database->execute("UPDATE T SET Note = Null"); }},
+    };
+    for (const auto& [number, action] : refused) {
+        try {
+            action();
+            ADD_FAILURE() << number << " in line " << &number - &refused[0].first;
+        } catch (const DatabaseError& error) {
+            EXPECT_EQ(error.number(), number) << error.description();
+        }
+    }
+    EXPECT_EQ(tables.find("T")->fields.size(), 5u);
+}
+
+/// What refuses empty texts lies in the type of the column, which other statements carry on.
+TEST_F(TableDefinitions, EmptyTextsStayRefusedThroughChangesOfTheTable) {
+    TableDef names = database->createTableDef("Names");
+    names.fields = {Field{"Name", FieldType::Text, 9, false, false, {}}, field("N", FieldType::Long)};
+    database->tableDefs().append(names);
+    database->execute("INSERT INTO Names VALUES ('x', 1)");
+    database->execute("ALTER TABLE Names ALTER COLUMN N Double");
+    database->execute("ALTER TABLE Names ADD COLUMN M Long");
+    database->execute("ALTER TABLE Names DROP COLUMN M");
+    const auto rows = database->openRecordset("Names");
+    rows->Edit();
+    rows->set("Name", "");
+    EXPECT_THROW(rows->Update(), DatabaseError);
+    EXPECT_FALSE(database->tableDefs().find("Names")->findField("Name")->allowZeroLength);
+}
+
+TEST_F(TableDefinitions, ACounterNumbersTheRowsAndIsTheOnlyOne) {
+    Field id = field("Id", FieldType::Long);
+    id.counter = true;
+    Field second = id;
+    second.name = "Id2";
+    TableDef numbered = database->createTableDef("Numbered");
+    numbered.fields = {id, second};
+    EXPECT_THROW(database->tableDefs().append(numbered), DatabaseError);
+    numbered.fields[1] = field("N", FieldType::Long);
+    database->tableDefs().append(numbered);
+    database->execute("INSERT INTO Numbered (N) VALUES (5)");
+    database->execute("INSERT INTO Numbered (N) VALUES (6)");
+    EXPECT_EQ(database->openRecordset("SELECT Id FROM Numbered WHERE N = 6")->value(0), Value(2));
+    EXPECT_TRUE(database->tableDefs().find("Numbered")->findField("Id")->counter);
 }
 
 } // namespace
