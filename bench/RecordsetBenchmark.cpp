@@ -35,7 +35,10 @@ struct Form {
     const char* before;
     const char* after;
 };
-constexpr std::array<Form, 3> forms{{{"Exchange = '", "'"}, {"UCASE(Exchange) = '", "'"}, {"Exchange Like '", "*'"}}};
+constexpr std::array<Form, 4> forms{{{"Exchange = '", "'"},
+                                     {"UCASE(Exchange) = '", "'"},
+                                     {"Exchange = '", "' And TotalCalls1 >= 0"},
+                                     {"Exchange Like '", "*'"}}};
 
 /// One search after the other for another name each time. Argument: which form the expression has.
 void findFirst(benchmark::State& state) {
@@ -51,9 +54,9 @@ void findFirst(benchmark::State& state) {
         next = next + 1 == expressions.size() ? 0 : next + 1;
         benchmark::DoNotOptimize(rows->NoMatch());
     }
-    state.SetLabel(form.before);
+    state.SetLabel(std::string(form.before) + "..." + form.after);
 }
-BENCHMARK(findFirst)->DenseRange(0, 2);
+BENCHMARK(findFirst)->DenseRange(0, 3);
 
 /// The first search of a recordset, which looks at every row.
 void firstFind(benchmark::State& state) {
@@ -66,15 +69,22 @@ void firstFind(benchmark::State& state) {
 }
 BENCHMARK(firstFind)->Unit(benchmark::kMicrosecond);
 
+/// Argument: the number of rows.
 void openAndRead(benchmark::State& state) {
+    const Statistics& table = statistics();
+    const long count = state.range(0);
+    if (!table.database->tableDefs().find("TblMany"))
+        table.database->execute("SELECT a.* INTO TblMany FROM TblExchangeArea AS a, TblExchangeArea AS b "
+                                "WHERE b.TotalCalls1 < 34");
+    const std::string query = "SELECT TOP " + std::to_string(count) + " * FROM TblMany";
     for ([[maybe_unused]] auto _ : state) {
-        const auto rows = statistics().database->openRecordset("SELECT * FROM TblExchangeArea");
+        const auto rows = table.database->openRecordset(query);
         for (; !rows->EOF_(); rows->MoveNext())
             benchmark::DoNotOptimize(rows->value("TotalCalls1"));
     }
-    state.SetItemsProcessed(state.iterations() * areas);
+    state.SetItemsProcessed(state.iterations() * count);
 }
-BENCHMARK(openAndRead)->Unit(benchmark::kMicrosecond);
+BENCHMARK(openAndRead)->Arg(3000)->Arg(100000)->Unit(benchmark::kMicrosecond);
 
 /// Every row found by its name and changed, in one transaction, as a walk over counted areas does.
 void findAndEdit(benchmark::State& state) {
@@ -93,5 +103,28 @@ void findAndEdit(benchmark::State& state) {
     state.SetItemsProcessed(state.iterations() * areas);
 }
 BENCHMARK(findAndEdit)->Unit(benchmark::kMillisecond);
+
+/// The same change by a statement for each area.
+void updateEach(benchmark::State& state) {
+    Statistics& table = statistics();
+    for ([[maybe_unused]] auto _ : state) {
+        WorkspaceTransaction transaction(*table.workspace);
+        for (int i = 0; i < areas; ++i)
+            table.database->execute("UPDATE TblExchangeArea SET TotalCalls1 = " + std::to_string(i) +
+                                    " WHERE Exchange = '" + Statistics::nameOf(i) + "'");
+        transaction.commit();
+    }
+    state.SetItemsProcessed(state.iterations() * areas);
+}
+BENCHMARK(updateEach)->Unit(benchmark::kMillisecond);
+
+/// A like change of all areas by one statement.
+void updateAll(benchmark::State& state) {
+    Statistics& table = statistics();
+    for ([[maybe_unused]] auto _ : state)
+        table.database->execute("UPDATE TblExchangeArea SET TotalCalls1 = TotalCalls1 + 1");
+    state.SetItemsProcessed(state.iterations() * areas);
+}
+BENCHMARK(updateAll)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -27,8 +27,8 @@ std::shared_ptr<AttachedFile> Workspace::Impl::attached(const std::string& path)
 }
 
 std::shared_ptr<AttachedFile> Workspace::Impl::attachedAs(std::string_view schema) const {
-    const auto found = std::find_if(files_.begin(), files_.end(),
-                                    [&](const auto& file) { return file.second->schema() == schema; });
+    const auto found =
+        std::find_if(files_.begin(), files_.end(), [&](const auto& file) { return file.second->schema() == schema; });
     return found == files_.end() ? nullptr : found->second;
 }
 
@@ -105,7 +105,15 @@ std::shared_ptr<Database> Workspace::createDatabase(const std::string& path, std
         throw DatabaseError(3044, "'" + toText(folder) + "' is not a valid folder");
     std::shared_ptr<AttachedFile> file;
     try {
-        file = impl_->attach(path, ConnectString::parse(connect).password, AttachedFile::Create::Yes);
+        const std::string password = ConnectString::parse(connect).password;
+        auto create = AttachedFile::Create::Yes;
+        if (impl_->connection->inTransaction()) {
+            // Through this connection the file's first page would go with the transaction and leave an empty file.
+            const AttachedFile made(std::make_shared<sqlite::Connection>(), canonicalPath(path), "made", password,
+                                    create);
+            create = AttachedFile::Create::No;
+        }
+        file = impl_->attach(path, password, create);
     } catch (...) {
         // A piece of a file would stand in the way of the next attempt.
         for (const char* ending : {"", "-journal"})

@@ -26,7 +26,8 @@ public:
                                            std::string_view connect = {});
 
     /// Makes a new, empty file and opens it; encrypted where the connect string carries a password.
-    /// Throws 3204 where the file already exists, 3044 where it cannot be made.
+    /// Throws 3204 where the file already exists, 3044 where it cannot be made. Inside a transaction the file itself
+    /// stays when its tables are undone.
     std::shared_ptr<Database> createDatabase(const std::string& path, std::string_view connect = {});
 
     /// One transaction over all files of the workspace. They nest. A fault of the disk may undo the whole of it at
