@@ -1,0 +1,76 @@
+#include "stats/calls/CallPredicate.h"
+
+#include "data/types/DatabaseError.h"
+#include "stats/calls/CompilePredicate.h"
+
+namespace {
+
+using Node = CallPredicate::Node;
+
+/// Kleene logic on the two bits of a truth.
+void combine(bool isAnd, std::uint8_t* out, const std::uint8_t* other, std::size_t count) {
+    const std::uint8_t both = isAnd ? truthBits::yes : truthBits::no;
+    const std::uint8_t any = isAnd ? truthBits::no : truthBits::yes;
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto a = out[i];
+        const auto b = other[i];
+        out[i] = static_cast<std::uint8_t>((a & b & both) | ((a | b) & any));
+    }
+}
+
+template<typename Id>
+void lookUp(const std::uint8_t* table, const Id* ids, std::uint8_t* out, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i)
+        out[i] = table[ids[i]];
+}
+
+void evaluate(const Node& node, const CallColumns& columns, std::size_t begin, std::size_t count, std::uint8_t* out,
+              CallPredicate::Scratch& scratch, std::size_t level) {
+    switch (node.kind) {
+    case Node::Kind::Table:
+        if (node.field == CallField::AnswerInd)
+            lookUp(node.table.data(), columns.answerInd.data() + begin, out, count);
+        else
+            lookUp(node.table.data(), columns.idsOf(node.field).data() + begin, out, count);
+        break;
+    case Node::Kind::Not:
+        evaluate(node.operands.front(), columns, begin, count, out, scratch, level);
+        for (std::size_t i = 0; i < count; ++i)
+            out[i] = static_cast<std::uint8_t>(((out[i] & 1) << 1) | (out[i] >> 1));
+        break;
+    default:
+        evaluate(node.operands.front(), columns, begin, count, out, scratch, level + 1);
+        std::uint8_t* other = scratch.levels[level].data();
+        for (std::size_t i = 1; i < node.operands.size(); ++i) {
+            evaluate(node.operands[i], columns, begin, count, other, scratch, level + 1);
+            combine(node.kind == Node::Kind::And, out, other, count);
+        }
+        break;
+    }
+}
+
+} // namespace
+
+CallPredicate::CallPredicate(std::unique_ptr<Node> root) : root_(std::move(root)) {}
+CallPredicate::CallPredicate(CallPredicate&&) noexcept = default;
+CallPredicate& CallPredicate::operator=(CallPredicate&&) noexcept = default;
+CallPredicate::~CallPredicate() = default;
+
+std::optional<CallPredicate> CallPredicate::compile(std::string_view condition, const CallTables& tables,
+                                                    const CallColumns& columns) {
+    try {
+        auto root = compileCondition(condition, tables, columns);
+        if (!root)
+            return {};
+        return CallPredicate(std::move(root));
+    } catch (const RuntimeError&) {
+        return {}; // the statement will fail in its own words
+    }
+}
+
+void CallPredicate::select(const CallColumns& columns, std::size_t begin, std::size_t count, std::uint8_t* mask,
+                           Scratch& scratch) const {
+    evaluate(*root_, columns, begin, count, mask, scratch, 0);
+    for (std::size_t i = 0; i < count; ++i)
+        mask[i] &= truthBits::yes;
+}
