@@ -6,6 +6,9 @@
 
 namespace jet {
 
+/// Bytes of the longest text that functions and `&` make; what would be longer is error 14.
+constexpr std::size_t longestMade = 20'000'000;
+
 /// UTF-8 by characters; positions and lengths count code points. A byte that begins no valid sequence counts as one.
 
 /// Takes one code point off the front of `text`, which must not be empty.

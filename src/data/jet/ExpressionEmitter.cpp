@@ -3,6 +3,7 @@
 #include "data/jet/Like.h"
 #include "data/jet/ScalarFunctions.h"
 #include "data/jet/StaticTypes.h"
+#include "data/types/DatabaseError.h"
 
 #include <charconv>
 #include <optional>
@@ -20,6 +21,14 @@ std::string realText(double number) {
     if (text.find_first_of(".en") == std::string::npos)
         text += ".0";
     return text;
+}
+
+/// Some forms stand more than once in what is emitted, so that few words nested in one another could become gigabytes.
+std::string bounded(std::string emitted, const Expression& expression) {
+    constexpr std::size_t longestEmitted = 16'000'000;
+    if (emitted.size() > longestEmitted && expression.kind != Kind::Literal)
+        throw DatabaseError(3360, "The expression is too complex", expression.position);
+    return emitted;
 }
 
 std::string_view comparisonSign(Operator op) {
@@ -103,6 +112,22 @@ std::string columnText(const Source& source, int column) {
 }
 
 std::string Emitter::value(const Expression& expression) {
+    return bounded(valueText(expression), expression);
+}
+std::string Emitter::condition(const Expression& expression) {
+    return bounded(conditionText(expression), expression);
+}
+
+std::string Emitter::target(const Expression& name, std::string (Emitter::*form)(const Expression&)) {
+    if (targetDepth_ >= maxDepth)
+        throw DatabaseError(3360, "The expression is too complex", name.position);
+    ++targetDepth_;
+    std::string emitted = (this->*form)(*name.bound.target);
+    --targetDepth_;
+    return emitted;
+}
+
+std::string Emitter::valueText(const Expression& expression) {
     switch (expression.kind) {
     case Kind::Literal:
         return literalText(expression.literal);
@@ -110,7 +135,7 @@ std::string Emitter::value(const Expression& expression) {
         return "NULL";
     case Kind::Column:
         if (expression.bound.target)
-            return value(*expression.bound.target);
+            return target(expression, &Emitter::value);
         return columnText(*expression.bound.source, expression.bound.column);
     case Kind::Negate:
         return "(- " + number(*expression.operands.front()) + ")";
@@ -132,7 +157,7 @@ std::string Emitter::value(const Expression& expression) {
     }
 }
 
-std::string Emitter::condition(const Expression& expression) {
+std::string Emitter::conditionText(const Expression& expression) {
     switch (expression.kind) {
     case Kind::Comparison:
         return comparison(expression);
@@ -162,7 +187,7 @@ std::string Emitter::condition(const Expression& expression) {
             return "(" + value(*expression.operands.front()) + " IS NULL)";
         return value(expression);
     case Kind::Column:
-        return expression.bound.target ? condition(*expression.bound.target) : value(expression);
+        return expression.bound.target ? target(expression, &Emitter::condition) : value(expression);
     default:
         return value(expression);
     }

@@ -125,6 +125,8 @@ void concat(sqlite3_context* context, int count, sqlite3_value** arguments) {
         for (int i = 0; i < count; ++i) {
             any = any || !isNull(arguments[i]);
             joined += textOf(arguments[i]);
+            if (joined.size() > longestMade)
+                throw RuntimeError(14, "Out of string space");
         }
         if (any)
             giveResult(context, joined);

@@ -1,5 +1,6 @@
 #include "data/jet/Like.h"
 
+#include "core/RuntimeError.h"
 #include "data/jet/Characters.h"
 #include "data/types/Value.h"
 
@@ -17,15 +18,32 @@ char32_t upperAscii(char32_t c) {
     return c >= 'a' && c <= 'z' ? c - 0x20 : c;
 }
 
-/// Whether the bytes from `text` on are `upper`, which is ASCII in capitals.
-bool sameWithoutCase(const char* text, const std::string& upper) {
+/// How many bytes from `text` on are those of `upper`, which is ASCII in capitals.
+std::size_t sharedWithoutCase(const char* text, const std::string& upper) {
     for (std::size_t i = 0; i < upper.size(); ++i) {
         const char c = text[i];
         if ((c >= 'a' && c <= 'z' ? static_cast<char>(c - 0x20) : c) != upper[i])
-            return false;
+            return i;
     }
-    return true;
+    return upper.size();
 }
+bool sameWithoutCase(const char* text, const std::string& upper) {
+    return sharedWithoutCase(text, upper) == upper.size();
+}
+
+/// Comparisons of characters that one text may take: a long pattern that nearly fits a long text everywhere would
+/// otherwise keep the program for hours.
+class Effort {
+public:
+    void add(std::size_t comparisons) {
+        spent_ += comparisons;
+        if (spent_ > 200'000'000)
+            throw RuntimeError(3360, "The pattern of Like is too complex for so long a text");
+    }
+
+private:
+    std::size_t spent_ = 0;
+};
 
 } // namespace
 
@@ -123,15 +141,22 @@ bool LikePattern::matches(std::string_view text) const {
     case Shape::Suffix:
         return text.size() >= plain_.size() && sameWithoutCase(text.data() + text.size() - plain_.size(), plain_);
     case Shape::Inside:
-        for (std::size_t at = 0; at + plain_.size() <= text.size(); ++at) {
-            if (sameWithoutCase(text.data() + at, plain_))
-                return true;
-        }
-        return false;
+        return isInside(text);
     case Shape::General:
         break;
     }
     return matchesElements(text);
+}
+
+bool LikePattern::isInside(std::string_view text) const {
+    Effort effort;
+    for (std::size_t at = 0; at + plain_.size() <= text.size(); ++at) {
+        const std::size_t shared = sharedWithoutCase(text.data() + at, plain_);
+        if (shared == plain_.size())
+            return true;
+        effort.add(shared);
+    }
+    return false;
 }
 
 bool LikePattern::matchesElements(std::string_view text) const {
@@ -145,7 +170,9 @@ bool LikePattern::matchesElements(std::string_view text) const {
     std::size_t element = 0;
     std::size_t runElement = elements_.size();
     std::string_view runRest;
+    Effort effort;
     while (true) {
+        effort.add(1);
         if (element < elements_.size() && elements_[element].kind == Element::Kind::AnyRun) {
             runElement = element++;
             runRest = text;

@@ -14,6 +14,7 @@ bool hasWildcards(std::string_view pattern);
 class LikePattern {
 public:
     explicit LikePattern(std::string_view pattern);
+    /// Throws RuntimeError 3360 where a long text would take too many comparisons.
     bool matches(std::string_view text) const;
 
 private:
@@ -33,6 +34,7 @@ private:
     void readSet(std::string_view& rest);
     void readElements(std::string_view pattern);
     void readShape(std::string_view pattern);
+    bool isInside(std::string_view text) const;
     bool matchesElements(std::string_view text) const;
 
     std::vector<Element> elements_;

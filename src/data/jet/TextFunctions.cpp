@@ -10,8 +10,7 @@ namespace jet::functions {
 
 namespace {
 
-constexpr std::int64_t longestText = 1'000'000;      ///< that Space and String make
-constexpr std::size_t longestReplaced = 100'000'000; ///< bytes that Replace makes
+constexpr std::int64_t longestText = 1'000'000; ///< that Space and String make
 
 [[noreturn]] void invalidArgument() {
     throw RuntimeError(5, "Invalid procedure call or argument");
@@ -159,7 +158,7 @@ Value replace(Arguments a) {
             return result + text.substr(at);
         result.append(text, at, found - at).append(with);
         at = found + wanted.size();
-        if (result.size() > longestReplaced)
+        if (result.size() > longestMade)
             throw RuntimeError(14, "Out of string space");
     }
 }

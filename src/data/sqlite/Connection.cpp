@@ -21,6 +21,9 @@ void switchOffJoinFilters(sqlite3* connection) {
     sqlite3_test_control(SQLITE_TESTCTRL_OPTIMIZATIONS, connection, bloomFilter);
 }
 
+/// Bytes of the longest text, bytes value or row; far above any shape, far below what takes the memory away.
+constexpr int longestValue = 100'000'000;
+
 /// How long a statement waits for another process to let go of a file.
 constexpr int busyMilliseconds = 2000;
 
@@ -37,6 +40,7 @@ Connection::Connection() {
     }
     sqlite3_extended_result_codes(handle_, 1);
     sqlite3_busy_timeout(handle_, busyMilliseconds);
+    sqlite3_limit(handle_, SQLITE_LIMIT_LENGTH, longestValue);
     switchOffJoinFilters(handle_);
     try {
         jet::registerFunctions(handle_);
