@@ -3,9 +3,21 @@
 #include "data/engine/DatabaseImpl.h"
 #include "data/engine/RecordsetImpl.h"
 #include "data/engine/WorkspaceImpl.h"
+#include "data/jet/Emitter.h"
 #include "data/types/DatabaseError.h"
 
 #include <sqlite3.h>
+
+#include <algorithm>
+
+namespace {
+/// The library's row number cannot be named where columns have all of its names.
+bool hasRowNumbers(const jet::Table& table) {
+    const std::string row = jet::rowidName(table.columns);
+    return std::none_of(table.columns.begin(), table.columns.end(),
+                        [&](const Field& field) { return equalText(field.name, row); });
+}
+} // namespace
 
 Database::Database(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
 Database::~Database() = default;
@@ -59,7 +71,7 @@ std::shared_ptr<Recordset> Database::run(std::string_view statement) {
 }
 
 std::shared_ptr<Recordset> Database::open(jet::Program program) {
-    if (impl_->readOnly)
+    if (impl_->readOnly || (program.updatable && !hasRowNumbers(*program.updatable)))
         program.updatable.reset();
     auto rows = std::make_unique<Recordset::Impl>(impl_->attached, std::move(program));
     if (rows->program.updatable)

@@ -48,9 +48,9 @@ public:
     void AddNew();
     void set(int position, Value value);
     void set(std::string_view field, Value value);
-    /// Writes the edited or new row. A new row is appended to the rows; the current row does not move to it. Throws
-    /// 3167 where the row has been deleted meanwhile, 3022, 3314 and 3315 where the table refuses it; the edit then
-    /// stays open for another try.
+    /// Writes the edited or new row. Columns that are calculated from others show their new value after Requery(). A
+    /// new row is appended to the rows; the current row does not move to it. Throws 3167 where the row has been deleted
+    /// meanwhile, 3022, 3314 and 3315 where the table refuses it; the edit then stays open for another try.
     void Update();
     void CancelUpdate();
     /// Throws 3167 where the row has been deleted meanwhile. After it there is no current row until the next move.

@@ -93,12 +93,16 @@ double Statement::real(int column) const {
 
 std::string_view Statement::text(int column) const {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(handle_, column));
+    if (!text && sqlite3_errcode(connection_) == SQLITE_NOMEM)
+        raise(connection_, SQLITE_NOMEM); // not an empty text
     return text ? std::string_view(text, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column)))
                 : std::string_view();
 }
 
 std::span<const std::byte> Statement::bytes(int column) const {
     const auto* data = static_cast<const std::byte*>(sqlite3_column_blob(handle_, column));
+    if (!data && sqlite3_errcode(connection_) == SQLITE_NOMEM)
+        raise(connection_, SQLITE_NOMEM);
     return {data, static_cast<std::size_t>(sqlite3_column_bytes(handle_, column))};
 }
 

@@ -308,6 +308,10 @@ TEST_F(Recordsets, TablesWithColumnsNamedLikeTheLibrarysRowNumbers) {
     const auto left = database->openRecordset("Odd");
     ASSERT_EQ(left->RecordCount(), 1);
     EXPECT_EQ(left->value("N"), Value(3));
+    database->execute("ALTER TABLE Odd ADD COLUMN [_rowid_] Long"); // now no row can be told from another
+    const auto still = database->openRecordset("Odd");
+    EXPECT_EQ(still->value("N"), Value(3));
+    EXPECT_EQ(faultOf([&] { still->Edit(); }), 3027);
 }
 
 TEST_F(Recordsets, MovingAwayDropsAnEditAndRequeryReadsAnew) {
