@@ -32,17 +32,12 @@ public:
         }
     }
 
+    /// Call by call: the stamps need the callers in their order.
     void count(const Block& block) {
+        if (anySeveral_)
+            return countSeveral(block);
         for (std::size_t i = 0; i < block.size; ++i)
             meet(single_[block.code[i]], block.kind[i], block.caller[i]);
-        if (!anySeveral_)
-            return;
-        for (std::size_t i = 0; i < block.size; ++i) {
-            if (!hasSeveral_[block.code[i]])
-                continue;
-            for (const std::uint32_t area : boundary_.areasOfCode[block.code[i]])
-                meet(area, block.kind[i], block.caller[i]);
-        }
     }
 
     void addTo(CallScan::Callers& callers) const {
@@ -55,6 +50,17 @@ public:
     }
 
 private:
+    void countSeveral(const Block& block) {
+        for (std::size_t i = 0; i < block.size; ++i) {
+            if (!hasSeveral_[block.code[i]]) {
+                meet(single_[block.code[i]], block.kind[i], block.caller[i]);
+                continue;
+            }
+            for (const std::uint32_t area : boundary_.areasOfCode[block.code[i]])
+                meet(area, block.kind[i], block.caller[i]);
+        }
+    }
+
     struct Cell {
         std::uint32_t last = 0;
         std::uint32_t callers = 0;

@@ -1,0 +1,192 @@
+#include "stats/ScanFigures.h"
+
+#include "data/jet/Parser.h"
+#include "data/jet/Search.h"
+#include "data/project/Databases.h"
+#include "data/project/SystemDatabaseStep.h"
+#include "data/types/DatabaseError.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <map>
+
+namespace {
+
+bool isOneOf(const Value& text, std::initializer_list<const char*> wanted) {
+    return !text.isNull() &&
+           std::any_of(wanted.begin(), wanted.end(), [&](const char* one) { return equalText(text.asText(), one); });
+}
+
+/// Whether a condition keeps its meaning behind "… AND ".
+bool standsBehindAnd(const std::string& where) {
+    using Kind = jet::Expression::Kind;
+    try {
+        const Kind kind = jet::parseExpression(where)->kind;
+        return kind != Kind::Or && kind != Kind::Logic;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+/// Values in the order of SQL, null first.
+struct ByText {
+    bool operator()(const Value& a, const Value& b) const {
+        if (a.isNull() || b.isNull())
+            return a.isNull() && !b.isNull();
+        return compareText(a.asText(), b.asText()) < 0;
+    }
+};
+
+void addTo(SpecialRowFigures& figures, const Value& answerInd, const CallSums& sums) {
+    figures.totalCalls += sums.calls;
+    figures.cost.tenThousandths += sums.cost;
+    figures.revenue.tenThousandths -= sums.revenue;
+    if (answerInd.isNull())
+        return;
+    const bool isAnswered = isOneOf(answerInd, {"0", "8"});
+    const bool isEngaged = isOneOf(answerInd, {"2", "9"});
+    const bool isRtnr = isOneOf(answerInd, {"4"});
+    (isAnswered ? figures.answered : figures.ineffective) += sums.calls;
+    if (isEngaged)
+        figures.engaged += sums.calls;
+    else if (isRtnr)
+        figures.rtnr += sums.calls;
+    else if (!isAnswered)
+        figures.other += sums.calls;
+}
+
+} // namespace
+
+ScanFigures::ScanFigures(const BoundaryTraits& boundary, std::shared_ptr<const CallColumns> columns)
+    : area_(boundary.dataColumn), columns_(std::move(columns)), statements_(boundary) {}
+
+std::optional<CallScan> ScanFigures::scan(const std::string& where) {
+    try {
+        if (!areas_)
+            areas_.emplace(projectDatabase(), area_, *columns_);
+        std::optional<CallPredicate> predicate;
+        if (!where.empty()) {
+            predicate = CallPredicate::compile(where, callTablesOf(projectDatabase()), *columns_);
+            if (!predicate)
+                return {};
+        }
+        const ScanBoundary* boundary = &areas_->boundary;
+        return scanCalls(*columns_, predicate ? &*predicate : nullptr, {&boundary, 1});
+    } catch (const DatabaseError&) {
+        return {}; // the statement logs what is wrong
+    }
+}
+
+void ScanFigures::makeSelectedData(const CallSelection& selection) {
+    selection_ = selection;
+    areas_.reset(); // the geography may have changed since the last run
+    selected_ = scan(selection.where);
+    if (!selected_)
+        statements_.makeSelectedData(selection);
+}
+
+void ScanFigures::makeCallers(CallerKind kind, const std::string& where) {
+    auto& callers = callersOf(kind);
+    callers.reset();
+    if (where.empty() || standsBehindAnd(where)) {
+        if (selected_ && selection_.where == where)
+            callers = selected_->callers.front();
+        else if (const auto scanned = scan(where))
+            callers = scanned->callers.front();
+    }
+    if (!callers)
+        statements_.makeCallers(kind, where);
+}
+
+bool ScanFigures::isLeftOut(std::size_t code) const {
+    return selection_.where.empty() && selection_.withoutUnplacedCalls &&
+           isOneOf(columns_->valuesOf(CallField::Code)[code], {"MOBILE", "UNTRACEAB", "OLO", "NO CLI"});
+}
+
+void ScanFigures::forEachSum(
+    const std::function<void(const AreaName&, const Value& answerInd, const CallSums&)>& take) const {
+    const std::vector<Value>& answerInds = columns_->valuesOf(CallField::AnswerInd);
+    std::vector<std::map<Value, CallSums, ByText>> sums(areas_->names.size());
+    for (std::size_t code = 0; code < areas_->placesOfCode.size(); ++code) {
+        if (isLeftOut(code))
+            continue;
+        for (const std::uint32_t area : areas_->boundary.areasOfCode[code]) {
+            for (std::size_t ind = 0; ind < answerInds.size(); ++ind) {
+                if (selected_->of(code, ind).calls > 0)
+                    sums[area][answerInds[ind]] += selected_->of(code, ind);
+            }
+        }
+    }
+    for (std::size_t area = 0; area < sums.size(); ++area) {
+        for (const auto& [answerInd, sum] : sums[area])
+            take(areas_->names[area], answerInd, sum);
+    }
+}
+
+std::vector<CallCount> ScanFigures::callsByArea() {
+    if (!selected_)
+        return statements_.callsByArea();
+    std::vector<CallCount> counts;
+    forEachSum([&](const AreaName& area, const Value& answerInd, const CallSums& sums) {
+        counts.push_back({area, answerInd, sums.calls - sums.callsWithoutNumber});
+    });
+    return counts;
+}
+
+std::vector<MoneySum> ScanFigures::moneyByArea(CallMoney money) {
+    if (!selected_)
+        return statements_.moneyByArea(money);
+    std::vector<MoneySum> rows;
+    forEachSum([&](const AreaName& area, const Value&, const CallSums& sums) {
+        const std::int64_t sum = money == CallMoney::Cost ? sums.cost : -sums.revenue;
+        if (sum != 0)
+            rows.push_back({area, Money{sum}});
+    });
+    return rows;
+}
+
+std::vector<CallerCount> ScanFigures::callersByArea(CallerKind kind) {
+    const auto& callers = callersOf(kind);
+    if (!callers)
+        return statements_.callersByArea(kind);
+    const auto& counts = kind == CallerKind::Answered ? callers->answered : callers->lost;
+    std::vector<CallerCount> rows;
+    for (std::size_t area = 0; area < counts.size(); ++area) {
+        if (counts[area] > 0)
+            rows.push_back({areas_->names[area], areas_->names[area] ? counts[area] : 0}); // null is not counted
+    }
+    return rows;
+}
+
+std::vector<CallerCount> ScanFigures::mobileAndVoipCallers(CallerKind kind) {
+    if (!callersOf(kind))
+        return statements_.mobileAndVoipCallers(kind);
+    std::vector<CallerCount> rows = callersByArea(kind);
+    std::erase_if(rows, [](const CallerCount& row) { return !row.area || !isOneOf(*row.area, {"MOBILE", "VOIP"}); });
+    return rows;
+}
+
+SpecialRowFigures ScanFigures::specialRow(std::string_view test) {
+    if (!selected_)
+        return statements_.specialRow(test);
+    SpecialRowFigures figures;
+    onSystemDatabase([&] {
+        const jet::Search search(area_ + std::string(test),
+                                 [&](std::string_view name) { return equalText(name, area_) ? 0 : -1; });
+        std::vector<bool> fits;
+        for (const AreaName& spelling : areas_->spellings) {
+            const Value area = spelling ? Value(*spelling) : Value();
+            fits.push_back(search.matches([&](int) -> const Value& { return area; }));
+        }
+        const std::vector<Value>& answerInds = columns_->valuesOf(CallField::AnswerInd);
+        for (std::size_t code = 0; code < areas_->placesOfCode.size(); ++code) {
+            if (isLeftOut(code))
+                continue;
+            for (const std::uint32_t place : areas_->placesOfCode[code]) {
+                for (std::size_t ind = 0; fits[place] && ind < answerInds.size(); ++ind)
+                    addTo(figures, answerInds[ind], selected_->of(code, ind));
+            }
+        }
+    });
+    return figures;
+}
