@@ -56,6 +56,7 @@ private:
     Catalog& catalog_;
     int derivedTables_ = 0;
     bool inAggregate_ = false;
+    int boundAliases_ = 0; ///< depth of the output columns that are being bound because others name them
 };
 
 /// Throws 3122 where an expression of a grouped query shows a column that is neither grouped nor aggregated.

@@ -73,8 +73,6 @@ private:
     // ExpressionEmitter.cpp
     std::string valueText(const Expression& expression);
     std::string conditionText(const Expression& expression);
-    /// What a name of the output list stands for, which may use such names in turn.
-    std::string target(const Expression& name, std::string (Emitter::*form)(const Expression&));
     std::string text(const Expression& expression);
     std::string number(const Expression& expression);
     std::string arithmetic(const Expression& expression);
@@ -98,7 +96,6 @@ private:
     std::string dialectCall(const Expression& expression);
     std::string aggregate(const Expression& expression);
 
-    int targetDepth_ = 0;
     /// Calculated texts by which a table is joined, as columns "%key0", "%key1" … of it.
     std::map<const Source*, std::vector<const Expression*>> keys_;
     /// Tables of which the distinct values of one column are enough, with that column.

@@ -93,6 +93,8 @@ struct Expression {
         const Source* source = nullptr;     ///< of a Column: the table or derived table it belongs to
         int column = -1;                    ///< of a Column: position there
         const Expression* target = nullptr; ///< of a Column that names another result column by its alias
+        std::size_t targetSize = 0;         ///< nodes below the target, through all names that it uses
+        int targetDepth = 0;                ///< of the tree below the target, likewise
         const ScalarFunction* function = nullptr;
     } bound;
 };

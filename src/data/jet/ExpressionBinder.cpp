@@ -50,6 +50,30 @@ StaticType typeOfColumn(const ResultColumn& column) {
     return type;
 }
 
+/// Names of the output list stand for expressions, which may use such names in turn; what is behind a name is bounded,
+/// as every further step walks through all of it.
+constexpr int deepestThroughNames = 1000;
+constexpr std::size_t mostThroughNames = 100'000;
+
+[[noreturn]] void tooComplex(const Expression& expression) {
+    throw DatabaseError(3360, "The expression is too complex", expression.position);
+}
+
+void measure(const Expression& at, int depth, Expression::Binding& total) {
+    total.targetSize += 1 + at.bound.targetSize;
+    total.targetDepth = std::max(total.targetDepth, depth + at.bound.targetDepth);
+    for (const ExpressionPtr& operand : at.operands)
+        measure(*operand, depth + 1, total);
+}
+
+void measureTarget(Expression& name, const Expression& target) {
+    name.bound.targetSize = 0;
+    name.bound.targetDepth = 0;
+    measure(target, 1, name.bound);
+    if (name.bound.targetSize > mostThroughNames || name.bound.targetDepth > deepestThroughNames)
+        tooComplex(name);
+}
+
 /// Whether an expression names columns, but none of the query's own tables.
 bool namesOuterColumnsOnly(const Expression& expression, const Scope& scope) {
     bool any = false;
@@ -216,7 +240,12 @@ bool Binder::columnIn(Expression& expression, Scope& scope) {
         if (scope.columnStates[i] == 1)
             throw DatabaseError(3103, "Circular reference caused by the alias '" + aliased.alias + "'",
                                 expression.position);
+        boundAliases_ += aliased.expression->depth;
+        if (boundAliases_ > deepestThroughNames)
+            tooComplex(expression);
         bindColumn(i, scope);
+        boundAliases_ -= aliased.expression->depth;
+        measureTarget(expression, *aliased.expression);
         if (inAggregate_ && hasAggregate(*aliased.expression))
             throw DatabaseError(3095, "An aggregate cannot stand inside another", expression.position);
         expression.bound.target = aliased.expression.get();

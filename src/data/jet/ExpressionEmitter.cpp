@@ -118,15 +118,6 @@ std::string Emitter::condition(const Expression& expression) {
     return bounded(conditionText(expression), expression);
 }
 
-std::string Emitter::target(const Expression& name, std::string (Emitter::*form)(const Expression&)) {
-    if (targetDepth_ >= maxDepth)
-        throw DatabaseError(3360, "The expression is too complex", name.position);
-    ++targetDepth_;
-    std::string emitted = (this->*form)(*name.bound.target);
-    --targetDepth_;
-    return emitted;
-}
-
 std::string Emitter::valueText(const Expression& expression) {
     switch (expression.kind) {
     case Kind::Literal:
@@ -135,7 +126,7 @@ std::string Emitter::valueText(const Expression& expression) {
         return "NULL";
     case Kind::Column:
         if (expression.bound.target)
-            return target(expression, &Emitter::value);
+            return value(*expression.bound.target);
         return columnText(*expression.bound.source, expression.bound.column);
     case Kind::Negate:
         return "(- " + number(*expression.operands.front()) + ")";
@@ -187,7 +178,7 @@ std::string Emitter::conditionText(const Expression& expression) {
             return "(" + value(*expression.operands.front()) + " IS NULL)";
         return value(expression);
     case Kind::Column:
-        return expression.bound.target ? target(expression, &Emitter::condition) : value(expression);
+        return expression.bound.target ? condition(*expression.bound.target) : value(expression);
     default:
         return value(expression);
     }
