@@ -3,6 +3,8 @@
 #include "data/types/DatabaseError.h"
 #include "stats/calls/CompilePredicate.h"
 
+#include <algorithm>
+
 namespace {
 
 using Node = CallPredicate::Node;
@@ -18,20 +20,30 @@ void combine(bool isAnd, std::uint8_t* out, const std::uint8_t* other, std::size
     }
 }
 
-template<typename Id>
-void lookUp(const std::uint8_t* table, const Id* ids, std::uint8_t* out, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i)
-        out[i] = table[ids[i]];
+/// Calls `take` with the ids of a field from the call `begin` on.
+template<typename Take>
+void withIds(const CallColumns& columns, CallField field, std::size_t begin, Take take) {
+    if (field == CallField::AnswerInd)
+        take(columns.answerInd.data() + begin);
+    else
+        take(columns.idsOf(field).data() + begin);
+}
+
+/// Where only yes counts, an And of tables needs no third value.
+bool isAndOfTables(const Node& node) {
+    return node.kind == Node::Kind::And && std::all_of(node.operands.begin(), node.operands.end(),
+                                                       [](const Node& part) { return part.kind == Node::Kind::Table; });
 }
 
 void evaluate(const Node& node, const CallColumns& columns, std::size_t begin, std::size_t count, std::uint8_t* out,
               CallPredicate::Scratch& scratch, std::size_t level) {
     switch (node.kind) {
     case Node::Kind::Table:
-        if (node.field == CallField::AnswerInd)
-            lookUp(node.table.data(), columns.answerInd.data() + begin, out, count);
-        else
-            lookUp(node.table.data(), columns.idsOf(node.field).data() + begin, out, count);
+        withIds(columns, node.field, begin, [&](const auto* ids) {
+            const std::uint8_t* table = node.table.data();
+            for (std::size_t i = 0; i < count; ++i)
+                out[i] = table[ids[i]];
+        });
         break;
     case Node::Kind::Not:
         evaluate(node.operands.front(), columns, begin, count, out, scratch, level);
@@ -70,7 +82,16 @@ std::optional<CallPredicate> CallPredicate::compile(std::string_view condition, 
 
 void CallPredicate::select(const CallColumns& columns, std::size_t begin, std::size_t count, std::uint8_t* mask,
                            Scratch& scratch) const {
-    evaluate(*root_, columns, begin, count, mask, scratch, 0);
+    const bool onlyTables = isAndOfTables(*root_);
+    evaluate(onlyTables ? root_->operands.front() : *root_, columns, begin, count, mask, scratch, 0);
+    for (std::size_t part = 1; onlyTables && part < root_->operands.size(); ++part) {
+        const Node& node = root_->operands[part];
+        withIds(columns, node.field, begin, [&](const auto* ids) {
+            const std::uint8_t* table = node.table.data();
+            for (std::size_t i = 0; i < count; ++i)
+                mask[i] &= table[ids[i]];
+        });
+    }
     for (std::size_t i = 0; i < count; ++i)
         mask[i] &= truthBits::yes;
 }
