@@ -4,10 +4,6 @@
 
 namespace {
 
-bool isNamed(const AreaName& area) {
-    return area && !equalText(*area, "");
-}
-
 /// Moves to the area's row, adding one where there is none. False where the name cannot be searched for; the area then
 /// keeps its zeros.
 bool moveToArea(StatisticsRun& run, const std::string& area) {
@@ -31,6 +27,7 @@ void writeTally(StatisticsRun& run, const CallTally& tally) {
 } // namespace
 
 void countCalls(StatisticsRun& run) {
+    run.display.task(run.boundary.texts.calls);
     onSystemDatabase([&] { run.target.read(); });
     const std::vector<CallCount> counts = run.figures->callsByArea();
     AreaName previous;
@@ -39,7 +36,7 @@ void countCalls(StatisticsRun& run) {
     for (std::size_t i = 0; i < counts.size(); ++i) {
         run.display.position(counts.size(), i);
         const AreaName& area = counts[i].area;
-        if (!isNamed(area))
+        if (!area || !run.boundary.countedAreas.takes(*area))
             continue;
         if (!previous || !equalText(*previous, *area)) {
             if (placed)

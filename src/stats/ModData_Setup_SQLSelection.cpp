@@ -101,7 +101,7 @@ void ModData_Setup_SQLSelection(const ReportParameters& parameters, std::string&
     selection = " CallDate >= " + literal(startDate) + " AND CallDate <= " + literal(endDate);
     selection += timeClause(parameters, startDate, endDate, startTime, endTime);
     selection += inboundClause(parameters);
-    if (parameters.OptInbound == 2 && GroupLimitExceeded)
+    if (parameters.OptInbound == 2 && !parameters.cmbCG.empty() && GroupLimitExceeded)
         return;
     selection += answerPointClause(parameters);
     selection += destinationClause(parameters);

@@ -4,6 +4,7 @@
 #include "core/ModDeclarations.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
+#include "stats/CurrentProcedure.h"
 #include "stats/FigureSource.h"
 #include "stats/Measures.h"
 
@@ -53,7 +54,7 @@ void addCallers(const SpecialTable& table, Measure measure, const std::vector<Ca
 } // namespace
 
 void updateSpecialRows(const std::string& tableName, int period, FigureSource& figures) {
-    gsCurrentProc = "ModData_UpdateSpecialRows";
+    const CurrentProcedure procedure("ModData_UpdateSpecialRows");
     const BoundaryTraits* boundary = boundaryOfSpecialRows(tableName);
     if (!boundary) {
         LogError(gsCurrentProc, 5, "Table '" + tableName + "' has no side-panel rows to update");

@@ -3,16 +3,26 @@
 
 namespace {
 
-/// The sums come in the order of the areas, one for each AnswerInd of an area. The search goes on behind the row of a
-/// hit, so that the area's first sum is written and the others find nothing.
+/// The search for an area goes on behind the row of the last hit, or starts from the first row again.
+bool findArea(StatisticsRun& run, const std::string& area) {
+    const std::string expression = run.target.areaIs(area);
+    for (const std::string_view name : run.boundary.summedFromFirstRow) {
+        if (equalText(area, name))
+            return run.target.findFirst(expression);
+    }
+    return run.target.findForward(expression);
+}
+
+/// The sums come in the order of the areas, one for each AnswerInd of an area. Searching forward, the area's first sum
+/// is written and the others find nothing.
 void writeSums(StatisticsRun& run, const std::vector<MoneySum>& sums, Measure measure) {
     onSystemDatabase([&] { run.target.read(); });
     for (std::size_t i = 0; i < sums.size(); ++i) {
         run.display.position(sums.size(), i);
-        if (!sums[i].area)
+        if (!sums[i].area || !run.boundary.summedAreas.takes(*sums[i].area))
             continue;
         onSystemDatabase([&] {
-            if (run.target.findForward(run.target.areaIs(*sums[i].area)))
+            if (findArea(run, *sums[i].area))
                 run.target.write({{measure, sums[i].sum}});
         });
     }

@@ -6,6 +6,7 @@
 #include "core/Prompts.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
+#include "stats/CurrentProcedure.h"
 
 #include <vector>
 
@@ -189,7 +190,7 @@ void Reconciliation::renameGroups(const std::string& oldName, const std::string&
 
 } // namespace
 
-void reconcileNames(const ReconciledNames& names) {
-    gsCurrentProc = names.procedure;
-    logAndGoOn([&] { Reconciliation(names).run(); });
+int reconcileNames(const ReconciledNames& names) {
+    const CurrentProcedure procedure(names.procedure);
+    return logAndGoOn([&] { Reconciliation(names).run(); }) ? 0 : -1;
 }

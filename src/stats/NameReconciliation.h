@@ -10,12 +10,12 @@ struct ReconciledNames {
     std::string_view resultField;
     std::string_view polygonTable;
     std::string_view labelTable;
-    std::string_view statisticsTable; ///< empty: none is renamed
-    std::string_view statisticsColumn;
-    std::string_view notNames; ///< statement that removes further entries of TblTemp1 that are no names; may be empty
-    int groupDataType = 0;     ///< customer groups of this type are renamed too; 0: none
-    bool renameByCode = false; ///< the lookup is renamed code by code, not name by name
+    std::string_view statisticsTable{}; ///< empty: none is renamed
+    std::string_view statisticsColumn{};
+    std::string_view notNames{}; ///< statement that removes further entries of TblTemp1 that are no names; may be empty
+    int groupDataType = 0;       ///< customer groups of this type are renamed too; 0: none
+    bool renameByCode = false;   ///< the lookup is renamed code by code, not name by name
 };
 
 /// See ModData_CheckTVNameChanges.
-void reconcileNames(const ReconciledNames& names);
+int reconcileNames(const ReconciledNames& names);

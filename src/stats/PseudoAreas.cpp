@@ -9,11 +9,12 @@ void onSystem(const std::string& statement) {
     onSystemDatabase([&] { systemDatabase().execute(statement); });
 }
 
-/// Whether any row fits the condition " WHERE …". A table that cannot be read counts as one where it does.
-bool hasRow(const StatisticsRun& run, const std::string& condition) {
+/// Whether there is a row of the name. A table that cannot be read counts as one that has it.
+bool hasRowNamed(const StatisticsRun& run, std::string_view name) {
     bool has = true;
     onSystemDatabase([&] {
-        has = countOf(systemDatabase(), "SELECT COUNT(*) as RecCount FROM " + run.target.name() + condition) > 0;
+        has = countOf(systemDatabase(), "SELECT COUNT(*) as RecCount FROM " + run.target.name() + " WHERE ucase(" +
+                                            run.target.areaColumn() + ") = " + quoted(upperText(name))) > 0;
     });
     return has;
 }
@@ -23,11 +24,11 @@ void addZeroRow(const StatisticsRun& run, std::string_view name, int periods) {
 }
 
 /// One row `name` with the sums of period 1 over the rows that fit `condition`.
-void addSumRow(const StatisticsRun& run, std::string_view name, const std::string& condition) {
+void addSumRow(const StatisticsRun& run, std::string_view name, const std::string& condition, EmptySums empty) {
     std::string sums;
     for (const Measure measure : periodMeasures) {
-        const std::string column = measureColumn(measure, 1);
-        sums += ", iif(isnull(SUM(" + column + ")), 0, SUM(" + column + "))";
+        const std::string sum = "SUM(" + measureColumn(measure, 1) + ")";
+        sums += empty == EmptySums::Null ? ", " + sum : ", iif(isnull(" + sum + "), 0, " + sum + ")";
     }
     onSystem("INSERT INTO " + run.target.name() + " (" + run.target.areaColumn() + ", " + measureColumnList(1) +
              ") SELECT '" + std::string(name) + "' AS Expr1" + sums + " FROM " + run.target.name() + condition);
@@ -35,32 +36,46 @@ void addSumRow(const StatisticsRun& run, std::string_view name, const std::strin
 
 } // namespace
 
-void foldPseudoAreas(StatisticsRun& run) {
+void foldUnplacedAndOverseas(StatisticsRun& run, EmptySums unplacedSums) {
     run.display.task(run.boundary.texts.sidePanels);
     const std::string& area = run.target.areaColumn();
     const std::string removeFrom = "DELETE FROM " + run.target.name();
     const std::string unplaced = " WHERE " + area + " IN ('NO CLI', 'OLO', 'UNTRACEAB')";
     const std::string overseas = " WHERE " + area + std::string(run.boundary.overseasTest);
 
-    onSystem(removeFrom + " WHERE " + area + " IN ('OTHER', 'International')");
-    addSumRow(run, "Other", unplaced);
+    removeRows(run, "'OTHER', 'International'");
+    addSumRow(run, "Other", unplaced, unplacedSums);
     onSystem(removeFrom + unplaced);
-    addSumRow(run, "International", overseas);
+    addSumRow(run, "International", overseas, EmptySums::Zero);
     onSystem(removeFrom + overseas);
-    if (hasRow(run, " WHERE ucase(" + area + ") = 'MOBILE'"))
-        onSystem("UPDATE " + run.target.name() + " SET " + area + " = 'Mobile' WHERE " + area + " = 'MOBILE'");
-    else
-        addZeroRow(run, "MOBILE", 1);
-    if (!hasRow(run, " WHERE " + area + " = 'Other'"))
-        addZeroRow(run, "Other", 1);
-    if (!hasRow(run, " WHERE ucase(" + area + ") = 'International'"))
-        addZeroRow(run, "International", 1);
     run.display.stepDone();
 }
 
-void ensureRepublicOfIreland(StatisticsRun& run) {
-    if (!hasRow(run, " WHERE ucase(" + run.target.areaColumn() + ") = 'REPUBLIC OF IRELAND'"))
-        addZeroRow(run, "Republic Of Ireland", zeroRowPeriods(run.target.name()));
+void foldPseudoAreas(StatisticsRun& run, EmptySums unplaced) {
+    foldUnplacedAndOverseas(run, unplaced);
+    if (hasRowNamed(run, "MOBILE"))
+        nameMobile(run);
+    else
+        addZeroRow(run, "MOBILE", 1);
+    for (const char* name : {"Other", "International"}) {
+        if (!hasRowNamed(run, name))
+            addZeroRow(run, name, 1);
+    }
+}
+
+void nameMobile(StatisticsRun& run) {
+    const std::string& area = run.target.areaColumn();
+    onSystem("UPDATE " + run.target.name() + " SET " + area + " = 'Mobile' WHERE " + area + " = 'MOBILE'");
+}
+
+void ensureRow(StatisticsRun& run, std::string_view name) {
+    if (!hasRowNamed(run, name))
+        addZeroRow(run, name, zeroRowPeriods(run.target.name()));
+}
+
+void removeRows(StatisticsRun& run, std::string_view names) {
+    onSystem("DELETE FROM " + run.target.name() + " WHERE " + run.target.areaColumn() + " IN (" + std::string(names) +
+             ")");
 }
 
 void removeUnnamedAreas(StatisticsRun& run) {

@@ -2,14 +2,22 @@
 
 #include "core/LogAndGoOn.h"
 #include "core/ModDeclarations.h"
+#include "data/engine/Workspace.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
 
-StatisticsRun::StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period)
-    : boundary(traits), isMain(equalText(table, traits.mainTable)), target(table, traits.areaColumn, period),
-      figures(newFigureSource(traits)), display(isMain) {}
+#include <optional>
 
-void openForRun(const StatisticsRun& run) {
+StatisticsRun::StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period)
+    : StatisticsRun(traits, table, period, newFigureSource(traits)) {}
+
+StatisticsRun::StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period,
+                             std::unique_ptr<FigureSource> source)
+    : boundary(traits), isMain(equalText(table, traits.mainTable)), target(table, traits, period),
+      figures(std::move(source)), display(isMain) {}
+
+void runStatistics(std::string_view procedure, StatisticsRun& run, const std::function<void()>& steps) {
+    gsCurrentProc = procedure;
     for (const auto* slot : {&grsData1, &grsData2}) {
         if (*slot)
             ignoreErrors([&] { (*slot)->Close(); });
@@ -17,13 +25,21 @@ void openForRun(const StatisticsRun& run) {
     onSystemDatabase(reopenProject);
     if (run.target.period() == 1)
         StatsProgressStep = 1;
+
+    std::optional<WorkspaceTransaction> transaction;
+    logAndGoOn([&] { transaction.emplace(*defaultWorkspace()); });
+    steps();
+    run.target.close();
+    if (transaction)
+        logAndGoOn([&] { transaction->commit(); });
 }
 
 void selectCalls(StatisticsRun& run) {
-    run.display.task(run.boundary.texts.areas);
+    run.display.task(run.boundary.texts.selection);
     CallSelection selection;
     selection.where = SelectionSql;
-    selection.withoutUnplacedCalls = run.target.period() != 1 && !isAnimatedTable(run.target.name());
+    selection.withoutUnplacedCalls =
+        run.boundary.laterPeriodsPlacedOnly && run.target.period() != 1 && !isAnimatedTable(run.target.name());
     run.figures->makeSelectedData(selection);
     run.display.stepDone();
 }

@@ -17,7 +17,7 @@ StatisticsDisplay::~StatisticsDisplay() {
 }
 
 void StatisticsDisplay::task(std::string_view text) const {
-    if (!mainTable_)
+    if (!mainTable_ || text.empty())
         return;
     progress().setTask(std::string(text));
     progress().setMessageBar(1, 0);

@@ -26,8 +26,8 @@ void search(const std::string& expression, Find find) {
 
 } // namespace
 
-TargetTable::TargetTable(std::string table, std::string_view areaColumn, int period)
-    : table_(std::move(table)), areaColumn_(areaColumn), period_(period) {}
+TargetTable::TargetTable(std::string table, const BoundaryTraits& boundary, int period)
+    : table_(std::move(table)), areaColumn_(boundary.areaColumn), columns_(boundary.periodColumns), period_(period) {}
 
 Recordset& TargetTable::rows() {
     if (!rows_)
@@ -38,7 +38,20 @@ Recordset& TargetTable::rows() {
 void TargetTable::read() {
     rows_ = systemDatabase().openRecordset("SELECT * FROM " + table_ + " ORDER BY " + areaColumn_);
     hit_ = false;
+    findColumns();
+}
+
+void TargetTable::findColumns() {
     positions_.clear();
+    if (columns_ == PeriodColumns::ByPosition) {
+        int position = (period_ - 1) * static_cast<int>(periodMeasures.size()) + 1;
+        for (const Measure measure : periodMeasures) {
+            if (position < rows_->fieldCount())
+                positions_[measure] = position;
+            ++position;
+        }
+        return;
+    }
     for (const Measure measure : allMeasures) {
         const std::string column = measureColumn(measure, period_);
         for (int position = 0; position < rows_->fieldCount(); ++position) {

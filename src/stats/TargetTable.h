@@ -2,6 +2,7 @@
 
 #include "data/engine/Recordset.h"
 #include "data/types/Value.h"
+#include "stats/BoundaryTraits.h"
 #include "stats/Measures.h"
 
 #include <map>
@@ -22,7 +23,7 @@ struct MeasureValue {
 /// 91 where the rows were never read.
 class TargetTable {
 public:
-    TargetTable(std::string table, std::string_view areaColumn, int period);
+    TargetTable(std::string table, const BoundaryTraits& boundary, int period);
 
     const std::string& name() const { return table_; }
     const std::string& areaColumn() const { return areaColumn_; }
@@ -51,10 +52,12 @@ public:
 
 private:
     Recordset& rows();
+    void findColumns();
     void set(Measure measure, const Value& value);
 
     std::string table_;
     std::string areaColumn_;
+    PeriodColumns columns_;
     int period_;
     std::shared_ptr<Recordset> rows_;
     std::map<Measure, int> positions_; ///< of the columns that the table has
