@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace {
 
@@ -10,10 +9,9 @@ constexpr std::size_t places = 1 << 18;
 
 std::array<std::uint8_t, places> hits{};
 std::array<std::uint8_t, places> seen{}; ///< one bit for each magnitude of the count
-std::vector<std::uint32_t>& touched() {
-    static std::vector<std::uint32_t> list;
-    return list;
-}
+// Plain memory: instrumented code runs before and behind all that is built and torn down.
+std::array<std::uint32_t, places> touched{};
+std::size_t touchedCount = 0;
 std::size_t reached = 0;
 std::uintptr_t previous = 0;
 bool recording = false; ///< not while the program starts or ends
@@ -42,11 +40,8 @@ extern "C" void __sanitizer_cov_trace_pc() {
     const auto here = reinterpret_cast<std::uintptr_t>(__builtin_return_address(0));
     const std::size_t place = ((here >> 1) ^ (previous >> 2) ^ (here << 7)) % places;
     previous = here;
-    if (hits[place] == 0) {
-        recording = false; // the list may call into instrumented templates
-        touched().push_back(static_cast<std::uint32_t>(place));
-        recording = true;
-    }
+    if (hits[place] == 0)
+        touched[touchedCount++] = static_cast<std::uint32_t>(place);
     if (hits[place] < 255)
         ++hits[place];
 }
@@ -55,9 +50,9 @@ namespace coverage {
 
 void begin() {
     recording = false;
-    for (const std::uint32_t place : touched())
-        hits[place] = 0;
-    touched().clear();
+    for (std::size_t i = 0; i < touchedCount; ++i)
+        hits[touched[i]] = 0;
+    touchedCount = 0;
     previous = 0;
     recording = true;
 }
@@ -65,7 +60,8 @@ void begin() {
 std::size_t takeNew() {
     recording = false;
     std::size_t fresh = 0;
-    for (const std::uint32_t place : touched()) {
+    for (std::size_t i = 0; i < touchedCount; ++i) {
+        const std::uint32_t place = touched[i];
         const std::uint8_t bit = magnitude(hits[place]);
         if (seen[place] & bit)
             continue;

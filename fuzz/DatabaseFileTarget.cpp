@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 namespace {
 
@@ -26,7 +27,7 @@ std::string contents(const std::string& path) {
     return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-/// A sound file with two tables, an index, a view's worth of types and a link to another file.
+/// Sound files, plain and encrypted: two tables with columns of every kind, an index, and a link.
 class SoundFiles {
 public:
     SoundFiles() {
@@ -42,20 +43,19 @@ private:
         const std::string path = folder.file(name);
         const auto workspace = Workspace::create();
         const auto database = workspace->createDatabase(path, connect);
-        if (!workspace->openDatabase(path, Workspace::Access::Shared, connect)->tableDefs().find("Areas")) {
-            WorkspaceTransaction transaction(*workspace);
-            database->execute("CREATE TABLE Areas (Name Text(20), Calls Long, Cost Currency, Started DateTime, "
-                              "Active YesNo, Note Memo, Shape LongBinary, Share Double)");
-            for (int i = 0; i < 60; ++i)
-                database->execute("INSERT INTO Areas (Name, Calls, Cost, Started, Active, Note, Share) VALUES ('Area " +
-                                  std::to_string(i * 37 % 60) + "', " + std::to_string(i) +
-                                  ", 1.25, #01/31/2025 08:30:00#, True, '" +
-                                  std::string(static_cast<std::size_t>(i) * (i == 59 ? 100 : 1), 'n') + "', 0.1)");
-            database->execute("CREATE UNIQUE INDEX ByName ON Areas (Name)");
-            database->execute("CREATE TABLE Codes ([1141] Text(20), Area Text(20))");
-            database->execute("INSERT INTO Codes SELECT Left(Name, 6) AS [1141], Name AS Area FROM Areas");
-            transaction.commit();
+        WorkspaceTransaction transaction(*workspace);
+        database->execute("CREATE TABLE Areas (Name Text(20), Calls Long, Cost Currency, Started DateTime, "
+                          "Active YesNo, Note Memo, Shape LongBinary, Share Double)");
+        for (int i = 0; i < 60; ++i) {
+            const std::string note(static_cast<std::size_t>(i) * (i == 59 ? 100 : 1), 'n');
+            database->execute("INSERT INTO Areas (Name, Calls, Cost, Started, Active, Note, Share) VALUES ('Area " +
+                              std::to_string(i * 37 % 60) + "', " + std::to_string(i) +
+                              ", 1.25, #01/31/2025 08:30:00#, True, '" + note + "', 0.1)");
         }
+        database->execute("CREATE UNIQUE INDEX ByName ON Areas (Name)");
+        database->execute("CREATE TABLE Codes ([1141] Text(20), Area Text(20))");
+        database->execute("INSERT INTO Codes SELECT Left(Name, 6) AS [1141], Name AS Area FROM Areas");
+        transaction.commit();
         TableDef link;
         link.name = "Other";
         link.connect = "MS Access;DATABASE=" + path + ";PWD=secret";

@@ -68,12 +68,15 @@ FileProbe probeFile(const std::string& path) {
     const std::uint64_t size = std::filesystem::file_size(file, fault);
     if (!interrupted && size % pageSize(header) != 0)
         damaged(path, "it has been cut off");
+    const std::uint32_t application = bigEndian32(header, 68);
+    // In an encrypted file the mark would be unreadable.
+    if (!plain && application == static_cast<std::uint32_t>(ApplicationId))
+        damaged(path, "its header is not valid");
     if (plain) {
         // The page count is to be believed where it was written together with the change counter.
         if (!interrupted && bigEndian32(header, 24) == bigEndian32(header, 92) &&
             bigEndian32(header, 28) * pageSize(header) > size)
             damaged(path, "it has been cut off");
-        const std::uint32_t application = bigEndian32(header, 68);
         if (application != 0 && application != static_cast<std::uint32_t>(ApplicationId))
             throw unrecognized();
     }

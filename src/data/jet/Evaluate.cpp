@@ -236,7 +236,7 @@ private:
         const Value& pattern = compared(*e.operands[1], heldPattern);
         if (text.isNull() || pattern.isNull())
             return {};
-        return isLike(text.asText(), pattern.asText()) != e.negated;
+        return located(e, [&] { return isLike(text.asText(), pattern.asText()); }) != e.negated;
     }
 
     Truth inList(const Expression& e) const {

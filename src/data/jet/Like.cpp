@@ -37,7 +37,7 @@ class Effort {
 public:
     void add(std::size_t comparisons) {
         spent_ += comparisons;
-        if (spent_ > 200'000'000)
+        if (spent_ > 50'000'000)
             throw RuntimeError(3360, "The pattern of Like is too complex for so long a text");
     }
 

@@ -159,7 +159,7 @@ void Binder::select(Select& select, std::vector<OrderTerm>* orderTerms, const Sc
     if (select.having)
         condition(*select.having, scope, Clause::Having);
     nameOutputs(select, scope);
-    select.grouped = !select.groupBy.empty() || (select.having && hasAggregate(*select.having)) ||
+    select.grouped = !select.groupBy.empty() || select.having ||
                      std::any_of(select.outputs.begin(), select.outputs.end(),
                                  [](const Select::Output& output) { return hasAggregate(*output.expression); });
     if (orderTerms)

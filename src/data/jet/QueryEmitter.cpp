@@ -1,5 +1,6 @@
 #include "data/jet/Emitter.h"
 
+#include "data/jet/Binder.h"
 #include "data/jet/StaticTypes.h"
 
 #include <algorithm>
@@ -149,6 +150,11 @@ std::string Emitter::clauses(const Select& select, const std::string& alsoWhere)
         const Expression& key = *select.groupBy[i];
         sql += (i == 0 ? " GROUP BY " : ", ") + sortKey(key);
     }
+    // Where a condition on groups stands alone, all rows are one group.
+    if (select.having && select.groupBy.empty() && !hasAggregate(*select.having) &&
+        std::none_of(select.outputs.begin(), select.outputs.end(),
+                     [](const Select::Output& output) { return hasAggregate(*output.expression); }))
+        sql += " GROUP BY NULL";
     if (select.having)
         sql += " HAVING " + condition(*select.having);
     return sql;
