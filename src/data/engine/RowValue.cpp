@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -65,6 +66,8 @@ Value readValue(const sqlite::Statement& row, int column, const jet::ResultColum
     }
     case SQLITE_FLOAT: {
         const double real = row.real(column);
+        if (type.sourceColumn.empty() && !std::isfinite(real))
+            throw DatabaseError(6, "Overflow: a number of the result is too large");
         if (type.type && !isText(*type.type) && *type.type != FieldType::LongBinary)
             return numberOfType(real, *type.type);
         return real;

@@ -124,7 +124,7 @@ std::string convertedText(const std::string& value, const StaticType& type, cons
     case FieldType::Double:
         return isNumberOrDate(type) ? value : call("jet_to_double", value);
     case FieldType::Date:
-        return isNumberOrDate(type) ? value : call("jet_to_date", value);
+        return isDate(type) ? value : call("jet_to_date", value);
     case FieldType::LongBinary:
         if (type.type && type.type != FieldType::LongBinary)
             mismatch(position);
@@ -141,9 +141,16 @@ std::string Emitter::assigned(const Expression& expression, const Field& field) 
     // What is calculated can outgrow the type that its operands have.
     const bool calculated = shown.kind == Expression::Kind::Arithmetic || shown.kind == Expression::Kind::Negate ||
                             shown.kind == Expression::Kind::Aggregate;
-    if (calculated && isWhole(type) && type.type != FieldType::Boolean && !equalText(shown.name, "COUNT"))
+    const bool isCount = shown.kind == Expression::Kind::Aggregate && equalText(shown.name, "COUNT");
+    if (calculated && isWhole(type) && type.type != FieldType::Boolean && !isCount)
         type.type = FieldType::Double;
-    return convertedText(value(shown), type, field, shown.position);
+    const std::string plain = value(shown);
+    const bool mayOverflow = calculated && !isCount && isNumberOrDate(type);
+    if (mayOverflow && field.type == FieldType::Double)
+        return call("jet_to_double", plain);
+    if (mayOverflow && field.type == FieldType::Date)
+        return call("jet_to_date", plain);
+    return convertedText(plain, type, field, shown.position);
 }
 
 } // namespace jet

@@ -51,6 +51,7 @@ Update StatementParser::update() {
     Update result;
     result.position = tokens_.peek().position;
     tokens_.expectWord("UPDATE", updateError);
+    tokens_.acceptWord("DISTINCTROW");
     result.from = fromList();
     externalFile(result.from);
     tokens_.expectWord("SET", updateError);
@@ -71,16 +72,33 @@ Delete StatementParser::deletion() {
     Delete result;
     result.position = tokens_.peek().position;
     tokens_.expectWord("DELETE", deleteError);
-    if (!tokens_.acceptSymbol("*") && tokens_.isName()) {
-        result.target = tokens_.take().text;
-        tokens_.expectSymbol(".", deleteError);
-        tokens_.expectSymbol("*", deleteError);
-    }
+    tokens_.acceptWord("DISTINCTROW");
+    if (!tokens_.acceptSymbol("*") && tokens_.isName())
+        result.target = deletedTable();
     tokens_.expectWord("FROM", deleteError);
     result.from = fromList();
     externalFile(result.from);
     result.where = optionalWhere();
     return result;
+}
+
+/// The table of `table.*`. Columns of it may stand behind, as designers of queries list them for their criteria.
+std::string StatementParser::deletedTable() {
+    std::string table;
+    do {
+        const std::size_t at = tokens_.peek().position;
+        const std::string name = tokens_.expectName(deleteError);
+        if (!table.empty() && !equalText(name, table))
+            throw DatabaseError(deleteError, "Rows can be deleted from one table only, not also from '" + name + "'",
+                                at);
+        tokens_.expectSymbol(".", deleteError);
+        if (table.empty())
+            tokens_.expectSymbol("*", deleteError);
+        else if (!tokens_.acceptSymbol("*"))
+            tokens_.expectName(deleteError);
+        table = name;
+    } while (tokens_.acceptSymbol(","));
+    return table;
 }
 
 } // namespace jet

@@ -15,18 +15,10 @@ namespace {
     throw RuntimeError(5, "Invalid procedure call or argument");
 }
 
-constexpr double firstDay = -657434.0; ///< 1 January 100
-constexpr double lastDay = 2958466.0;  ///< behind 31 December 9999
 constexpr std::int64_t mostSteps = 10'000'000'000;
 
-Date checked(Date date) {
-    if (!(date.days >= firstDay && date.days < lastDay))
-        throw RuntimeError(6, "Overflow: the date lies outside the years 100 to 9999");
-    return date;
-}
-
 Date dateArgument(const Value& value) {
-    return checked(value.asDate());
+    return checkedDate(value.asDate());
 }
 
 bool anyNull(Arguments arguments) {
@@ -79,7 +71,7 @@ Date fromSeconds(std::int64_t total) {
         --day;
     }
     const double time = static_cast<double>(second) / 86400.0;
-    return checked(Date{day < 0 ? static_cast<double>(day) - time : static_cast<double>(day) + time});
+    return checkedDate(Date{day < 0 ? static_cast<double>(day) - time : static_cast<double>(day) + time});
 }
 
 /// The same day and time some months on; a day that the month does not have becomes its last.
@@ -175,7 +167,7 @@ Value dateSerial(Arguments a) {
         year += year < 30 ? 2000 : 1900;
     if (year > 9999 || year < 0)
         invalidArgument();
-    return checked(dateOf({year, smallInteger(a[1]), smallInteger(a[2]), 0, 0, 0}));
+    return checkedDate(dateOf({year, smallInteger(a[1]), smallInteger(a[2]), 0, 0, 0}));
 }
 
 Value timeSerial(Arguments a) {

@@ -86,6 +86,7 @@ private:
     // LogicEmitter.cpp
     std::string logic(const Expression& expression);
     std::string junction(const Expression& expression, std::string_view word);
+    static const Expression* listedColumn(const Expression& operand, Operator wanted);
     std::string bits(const Expression& expression);
     std::string bitwise(const Expression& expression);
 

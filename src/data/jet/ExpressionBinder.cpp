@@ -353,6 +353,8 @@ void Binder::aggregate(Expression& expression, Scope& scope, Clause clause) {
     const StaticType& argument = expression.operands.front()->bound.type;
     if (equalText(expression.name, "SUM"))
         type = sumOf(argument);
+    else if (equalText(expression.name, "AVG"))
+        type.type = argument.type == FieldType::Currency ? FieldType::Currency : FieldType::Double;
     else if (equalText(expression.name, "MIN") || equalText(expression.name, "MAX") ||
              equalText(expression.name, "FIRST") || equalText(expression.name, "LAST"))
         type = argument;

@@ -176,12 +176,18 @@ std::string Emitter::conditionText(const Expression& expression) {
     case Kind::Function:
         if (expression.bound.function->name == "ISNULL")
             return "(" + value(*expression.operands.front()) + " IS NULL)";
-        return value(expression);
+        break;
     case Kind::Column:
-        return expression.bound.target ? condition(*expression.bound.target) : value(expression);
+        if (expression.bound.target)
+            return condition(*expression.bound.target);
+        break;
     default:
-        return value(expression);
+        break;
     }
+    // Of a text that is taken for a condition the library would look at the digits only, not at "True".
+    const StaticType& type = expression.bound.type;
+    const std::string plain = value(expression);
+    return isText(type) || isUnknown(type) ? "jet_to_boolean(" + plain + ")" : plain;
 }
 
 std::string Emitter::comparison(const Expression& expression) {
@@ -292,6 +298,8 @@ std::string Emitter::arithmetic(const Expression& expression) {
         return concatenation(expression);
     const StaticType& a = expression.operands[0]->bound.type;
     const StaticType& b = expression.operands[1]->bound.type;
+    if (a.alwaysNull || b.alwaysNull)
+        return "NULL";
     if (expression.op == Operator::Add && isText(a) && isText(b))
         return "(" + value(*expression.operands[0]) + " || " + value(*expression.operands[1]) + ")";
     if (expression.op == Operator::Add && (isUnknown(a) || isUnknown(b)))

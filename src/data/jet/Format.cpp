@@ -138,7 +138,7 @@ std::optional<std::string> formatNamed(const Value& value, std::string_view name
 
 std::string formatValue(const Value& value, std::string_view format) {
     if (value.isNull())
-        return {};
+        return formatNull(format);
     if (format.empty())
         return value.asText();
     if (auto result = formatNamed(value, upperText(format)))

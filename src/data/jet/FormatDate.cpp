@@ -33,7 +33,8 @@ class DatePicture {
 public:
     DatePicture(Date date, std::string_view picture)
         : date_(date), parts_(partsOf(date)), picture_(picture), upper_(upperText(picture)),
-          halfDay_(upper_.find("AM/PM") != std::string::npos || upper_.find("A/P") != std::string::npos) {}
+          halfDay_(upper_.find("AM/PM") != std::string::npos || upper_.find("A/P") != std::string::npos ||
+                   upper_.find("AMPM") != std::string::npos) {}
 
     std::string write() {
         while (at_ < picture_.size())
@@ -45,6 +46,8 @@ private:
     void sign() {
         if (upper_.compare(at_, 5, "AM/PM") == 0)
             return half(picture_[at_] == 'a' ? "am" : "AM", picture_[at_] == 'a' ? "pm" : "PM", 5);
+        if (upper_.compare(at_, 4, "AMPM") == 0)
+            return half("AM", "PM", 4);
         if (upper_.compare(at_, 3, "A/P") == 0)
             return half(picture_[at_] == 'a' ? "a" : "A", picture_[at_] == 'a' ? "p" : "P", 3);
         const char c = picture_[at_];

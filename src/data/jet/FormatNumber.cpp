@@ -253,4 +253,9 @@ std::string formatNumber(double number, std::string_view picture) {
     return number < 0 && section == 0 && !shownAsZero ? "-" + text : text;
 }
 
+std::string formatNull(std::string_view picture) {
+    const std::vector<std::string> parts = sections(picture);
+    return parts.size() > 3 ? byPicture(0, PictureReader(parts[3]).read()) : std::string();
+}
+
 } // namespace jet

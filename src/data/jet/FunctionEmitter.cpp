@@ -150,12 +150,10 @@ std::string Emitter::aggregate(const Expression& expression) {
     }
     if (name == "FIRST" || name == "LAST")
         return "jet_" + lowered(name) + "(" + value(argument) + ")";
-    if (name == "SUM") {
-        const std::string sum = "sum(" + number(argument) + ")";
+    if (name == "SUM" || name == "AVG") {
+        const std::string sum = lowered(name) + "(" + number(argument) + ")";
         return expression.bound.type.type == FieldType::Currency ? "round(" + sum + ", 4)" : sum;
     }
-    if (name == "AVG")
-        return "avg(" + number(argument) + ")";
     return "jet_" + lowered(name) + "(" + number(argument) + ")";
 }
 

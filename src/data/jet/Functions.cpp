@@ -144,6 +144,12 @@ void fit(sqlite3_context* context, int, sqlite3_value** arguments) {
     });
 }
 
+double finite(double number) {
+    if (!std::isfinite(number))
+        throw RuntimeError(6, "Overflow");
+    return number;
+}
+
 template<FieldType type>
 void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
     guarded(context, [&] {
@@ -155,7 +161,7 @@ void convert(sqlite3_context* context, int, sqlite3_value** arguments) {
         else if constexpr (type == FieldType::Currency)
             giveResult(context, value.asMoney());
         else if constexpr (type == FieldType::Double)
-            giveResult(context, value.asDouble());
+            giveResult(context, finite(value.asDouble()));
         else if constexpr (type == FieldType::Date)
             giveResult(context, value.asDate());
         else if constexpr (type == FieldType::Single) {

@@ -51,10 +51,43 @@ std::string Emitter::logic(const Expression& expression) {
     }
 }
 
+/// What many comparisons of one column with literals have in common: the column of "c = 1" in a chain of Or, of
+/// "c <> 1" in one of And. Null where the operand is none.
+const Expression* Emitter::listedColumn(const Expression& operand, Operator wanted) {
+    if (operand.kind != Kind::Comparison || operand.op != wanted)
+        return nullptr;
+    const Expression& column = comparedPart(*operand.operands[0]);
+    const Expression& literal = *operand.operands[1];
+    const bool listed = column.kind == Kind::Column && literal.kind == Kind::Literal && !literal.literal.isNull() &&
+                        (!isText(column.bound.type) || carriesCollation(column)) && !isUnknown(column.bound.type);
+    return listed ? &column : nullptr;
+}
+
+/// Comparisons of one column with many literals, one behind the other, become a list, in which the library searches;
+/// a chain it would go along from its beginning for every row.
 std::string Emitter::junction(const Expression& expression, std::string_view word) {
+    const bool isOr = expression.kind == Kind::Or;
+    const Operator listed = isOr ? Operator::Equal : Operator::NotEqual;
     std::vector<std::string> parts;
-    for (const ExpressionPtr& operand : expression.operands)
-        parts.push_back(condition(*operand));
+    for (std::size_t i = 0; i < expression.operands.size();) {
+        const Expression* column = listedColumn(*expression.operands[i], listed);
+        std::size_t end = i + 1;
+        while (column && end < expression.operands.size()) {
+            const Expression* next = listedColumn(*expression.operands[end], listed);
+            if (!next || !sameExpression(*next, *column))
+                break;
+            ++end;
+        }
+        constexpr std::size_t worthIt = 4;
+        if (end - i < worthIt) {
+            parts.push_back(condition(*expression.operands[i++]));
+            continue;
+        }
+        std::string list = "(" + value(*column) + (isOr ? " IN (" : " NOT IN (");
+        for (const std::size_t first = i; i < end; ++i)
+            list += (i == first ? "" : ", ") + value(*expression.operands[i]->operands[1]);
+        parts.push_back(list + "))");
+    }
     return joined(std::move(parts), word);
 }
 

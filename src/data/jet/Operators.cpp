@@ -45,7 +45,7 @@ Value linear(Operator op, const Value& a, const Value& b) {
     const double result = op == Operator::Add ? x + y : (op == Operator::Subtract ? x - y : x * y);
     if (a.isDate() || b.isDate()) {
         const bool staysDate = op == Operator::Add || (op == Operator::Subtract && !b.isDate());
-        return staysDate ? Value(Date{result}) : finite(result);
+        return staysDate ? Value(checkedDate(Date{result})) : finite(result);
     }
     if ((isMoney(a) || isMoney(b)) && !(op == Operator::Multiply && (std::holds_alternative<double>(a.storage()) ||
                                                                      std::holds_alternative<double>(b.storage()))))

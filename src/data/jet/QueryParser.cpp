@@ -60,9 +60,9 @@ Select StatementParser::select() {
     Select result;
     result.position = tokens_.peek().position;
     tokens_.expectWord("SELECT", selectError);
-    if (tokens_.acceptWord("DISTINCT") || tokens_.acceptWord("DISTINCTROW"))
-        result.distinct = true;
-    else
+    result.distinct = tokens_.acceptWord("DISTINCT");
+    const bool distinctRow = !result.distinct && tokens_.acceptWord("DISTINCTROW");
+    if (!result.distinct && !distinctRow)
         tokens_.acceptWord("ALL");
     selectTop(result);
     do {
@@ -77,6 +77,10 @@ Select StatementParser::select() {
         result.from = fromList();
         externalFile(result.from);
     }
+    // Every row of a single table is a row of its own, however much alike they look.
+    const bool joins =
+        result.from.size() > 1 || (result.from.size() == 1 && result.from.front()->kind == FromItem::Kind::Join);
+    result.distinct = result.distinct || (distinctRow && joins);
     result.where = optionalWhere();
     if (tokens_.acceptWord("GROUP")) {
         tokens_.expectWord("BY", selectError);

@@ -59,6 +59,7 @@ private:
     Insert insert();
     Update update();
     Delete deletion();
+    std::string deletedTable();
     ExpressionPtr optionalWhere();
 
     // SchemaParser.cpp

@@ -1,5 +1,6 @@
 #include "data/jet/Translate.h"
 
+#include "data/jet/Characters.h"
 #include "data/jet/Lexer.h"
 #include "data/jet/Parser.h"
 #include "data/jet/TokenStream.h"
@@ -85,12 +86,20 @@ void checkChangeable(const Table& table, std::size_t position) {
         throw DatabaseError(3073, "The rows of '" + table.name + "' cannot be changed", position);
 }
 
+void checkFieldCount(std::size_t fields, const TableName& name) {
+    constexpr std::size_t mostFields = 255;
+    if (fields > mostFields)
+        throw DatabaseError(3190, "Too many fields defined in table '" + name.name + "'", name.position);
+}
+
 Table newTable(const TableName& name, Catalog& catalog) {
     const bool exists = name.path.empty() ? catalog.isLink(name.name) || catalog.findTable(name.name).has_value()
                                           : catalog.findTableIn(name.path, name.name).has_value();
     if (exists)
         throw DatabaseError(3010, "Table '" + name.name + "' already exists", name.position);
-    if (upperText(name.name.substr(0, 7)) == "SQLITE_" || upperText(name.name.substr(0, 4)) == "MSYS")
+    constexpr std::size_t longestName = 64;
+    if (upperText(name.name.substr(0, 7)) == "SQLITE_" || upperText(name.name.substr(0, 4)) == "MSYS" ||
+        characterCount(name.name) > longestName)
         throw DatabaseError(3125, "'" + name.name + "' is not a valid name for a table", name.position);
     Table table;
     table.schema = name.path.empty() ? catalog.defaultSchema() : catalog.schemaOf(name.path);

@@ -23,6 +23,8 @@ std::string qualifiedName(const Table& table);
 std::size_t columnIndex(const Table& table, std::string_view name, std::size_t position, long error);
 /// Throws 3073 where the table's rows cannot be changed.
 void checkChangeable(const Table& table, std::size_t position);
+/// Throws 3190 where a table would have more fields than it can.
+void checkFieldCount(std::size_t fields, const TableName& name);
 /// The schema and name for a table that is to be made. Throws 3010 where it exists already.
 Table newTable(const TableName& name, Catalog& catalog);
 

@@ -31,6 +31,7 @@ Program makeTable(const Query& query, Catalog& catalog) {
     Program program;
     program.changesSchema = true;
     const Table table = newTable(*query.selects.front().into, catalog);
+    checkFieldCount(query.outputs().size(), *query.selects.front().into);
     std::vector<Field> fields;
     std::string columns;
     for (const Select::Output& output : query.outputs()) {

@@ -181,6 +181,7 @@ void dropColumns(Program& program, const Table& table, const AlterTable& alter, 
 
 Program translateCreateTable(const CreateTable& create, Catalog& catalog) {
     Table table = newTable(create.table, catalog);
+    checkFieldCount(create.columns.size(), create.table);
     for (const ColumnDefinition& column : create.columns) {
         checkNewColumn(table, column);
         table.columns.push_back(column.field);

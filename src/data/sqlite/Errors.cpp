@@ -48,8 +48,15 @@ Fault faultOf(int code, const std::string& words) {
     case SQLITE_TOOBIG:
         return {3035, "A value or statement is too long"};
     default:
-        return {UnclassifiedFault, words};
+        break;
     }
+    if (words == "integer overflow")
+        return {6, "Overflow"};
+    if (words.starts_with("too many columns"))
+        return {3190, "Too many fields defined"};
+    if (words.starts_with("too many terms"))
+        return {3360, "The statement is too complex"};
+    return {UnclassifiedFault, words};
 }
 
 } // namespace

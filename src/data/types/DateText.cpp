@@ -147,6 +147,14 @@ double parseTime(std::span<const Piece> pieces, std::string_view text) {
 
 } // namespace
 
+Date checkedDate(Date date) {
+    constexpr double firstDay = -657434.0; // 1 January 100
+    constexpr double behindLastDay = 2958466.0;
+    if (!(date.days >= firstDay && date.days < behindLastDay))
+        throw RuntimeError(6, "Overflow: the date lies outside the years 100 to 9999");
+    return date;
+}
+
 DateParts partsOf(Date date) {
     // The fraction of a day before day zero still counts forward from midnight.
     double day = std::trunc(date.days);

@@ -2,6 +2,7 @@
 
 #include "core/RuntimeError.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -27,10 +28,38 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// "£1,234.50" as "1234.50". A comma that does not part thousands stays, so that the text is no number.
+std::string withoutMoneySigns(std::string_view text) {
+    constexpr std::string_view pound = "£";
+    std::string plain;
+    if (text.starts_with('-')) {
+        plain = "-";
+        text.remove_prefix(1);
+    }
+    if (text.starts_with(pound))
+        text.remove_prefix(pound.size());
+    const std::size_t whole = std::min(text.find('.'), text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool parts = text[i] == ',' && i > 0 && i < whole && (whole - i) % 4 == 0 && isDigit(text[i - 1]);
+        if (!parts)
+            plain += text[i];
+    }
+    return plain;
+}
+
 double numberOfText(std::string_view text) {
     std::string_view digits = trimmed(text);
     if (digits.starts_with('+'))
         digits.remove_prefix(1);
+    std::string plain;
+    if (digits.find_first_of(",\xC2") != std::string_view::npos) {
+        plain = withoutMoneySigns(digits);
+        digits = plain;
+    }
     double number = 0;
     const auto [end, failed] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (digits.empty() || failed != std::errc{} || end != digits.data() + digits.size() || !std::isfinite(number))
@@ -126,7 +155,7 @@ Date Value::asDate() const {
         return *date;
     if (const auto* text = std::get_if<std::string>(&storage_))
         return parseDate(*text);
-    return Date{asDouble()};
+    return checkedDate(Date{asDouble()});
 }
 
 const Bytes& Value::asBytes() const {

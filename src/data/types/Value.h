@@ -53,7 +53,7 @@ public:
     std::int64_t asInteger() const; ///< rounds half to even
     std::int32_t asLong() const;    ///< 32 bits, overflow is error 6
     double asDouble() const;        ///< a boolean gives -1 or 0, a Date its days
-    Money asMoney() const;
+    Money asMoney() const;          ///< of texts as of those of the other numbers: "1,234.50" and "£1.50", too
     Date asDate() const;
     const Bytes& asBytes() const; ///< throws 13 unless it holds bytes
     /// As `&` writes it: numbers in their shortest decimal text, booleans "True"/"False", dates "dd/mm/yyyy hh:mm:ss"
@@ -73,6 +73,8 @@ std::string shortestText(double number);
 struct DateParts {
     int year = 1899, month = 12, day = 30, hour = 0, minute = 0, second = 0;
 };
+/// The date itself. Throws RuntimeError 6 where it lies outside the years 100 to 9999.
+Date checkedDate(Date date);
 DateParts partsOf(Date date);
 Date dateOf(const DateParts& parts);
 /// Parses "31/12/2025", "31/12/2025 17:05", "2025-12-31", "17:05:09", "5 Jan 2025", "01/Jan/1800". `monthFirst`: as

@@ -5,6 +5,7 @@
 
 #include <sqlite3.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
@@ -23,6 +24,8 @@ int compareJet(void*, int lengthA, const void* a, int lengthB, const void* b) {
         throw DatabaseError(std::strtol(words.c_str() + 4, nullptr, 10), words.substr(words.find(':', 4) + 1));
     if ((sqlite3_errcode(connection) & 0xFF) == SQLITE_CONSTRAINT)
         throw DatabaseError(3022, words);
+    if (words == "integer overflow")
+        throw DatabaseError(6, words);
     throw std::runtime_error("the storage library refused: " + words + "\n" + sql);
 }
 
@@ -61,6 +64,8 @@ public:
             break;
         }
         const double number = sqlite3_column_double(statement_, column);
+        if (!std::isfinite(number))
+            throw DatabaseError(6, "Overflow");
         if (type == FieldType::Date)
             return Date{number};
         if (type == FieldType::Boolean)
