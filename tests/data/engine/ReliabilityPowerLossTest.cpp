@@ -54,7 +54,7 @@ TEST(PowerLoss, LeavesTheFileAsBeforeOrAsAfter) {
                     const auto database = openAlone(path, kind.connect, cachePages);
                     change.run(*database);
                 }
-                const std::vector<DiskImage> losses = someOf(storage.stopRecording(), kind.connect.empty() ? 30 : 6);
+                const std::vector<DiskImage> losses = someOf(storage.stopRecording(), kind.connect.empty() ? 20 : 5);
                 const std::string after = stateOf(path, kind.connect);
                 ASSERT_NE(before, after) << change.name;
                 ASSERT_GT(losses.size(), 4u) << change.name << ": nothing was synced";

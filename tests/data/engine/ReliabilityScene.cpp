@@ -113,7 +113,8 @@ std::string stateOf(const std::string& path, const std::string& connect) {
 std::string faultAfterAccident(const std::string& path, const std::string& connect, const std::string& before,
                                const std::string& after) {
     try {
-        const std::string state = stateOf(path, connect);
+        const auto database = openAlone(path, connect);
+        const std::string state = stateOf(*database);
         if (state != before && state != after)
             return "the file is neither as before nor as after:\n" + state;
         // A journal that was never complete may lie there still; the file must need none.
@@ -121,7 +122,6 @@ std::string faultAfterAccident(const std::string& path, const std::string& conne
         std::filesystem::copy_file(toPath(path), toPath(copy), std::filesystem::copy_options::overwrite_existing);
         if (stateOf(copy, connect) != state)
             return "the file is not whole without its journal";
-        const auto database = openAlone(path, connect);
         database->execute("INSERT INTO Areas VALUES ('x', 'y', 1)");
         database->execute("DELETE FROM Areas WHERE Code = 'x'");
         if (stateOf(*database) != state)
