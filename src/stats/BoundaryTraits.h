@@ -54,6 +54,7 @@ struct BoundaryTraits {
     std::array<std::string_view, 3> summedFromFirstRow{};
     CallerSearch callerSearch = CallerSearch::AnyPlace;
     bool callersInPeriodOne = false; ///< callers go to the columns of period 1 whatever the period of the run
+    bool alwaysShowsTexts = false;   ///< not only while the main table is filled
     StatisticsTexts texts{};
 };
 

@@ -78,6 +78,10 @@ void removeRows(StatisticsRun& run, std::string_view names) {
              ")");
 }
 
+void removeRowsLike(StatisticsRun& run, std::string_view pattern) {
+    onSystem("DELETE FROM " + run.target.name() + " WHERE " + run.target.areaColumn() + " LIKE " + quoted(pattern));
+}
+
 void removeUnnamedAreas(StatisticsRun& run) {
     const std::string& area = run.target.areaColumn();
     onSystem("DELETE FROM " + run.target.name() + " WHERE " + area + " = '' OR " + area + " IS NULL");

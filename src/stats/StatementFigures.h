@@ -23,7 +23,6 @@ public:
 private:
     /// "table.column" of the boundary's area in a working table.
     std::string areaIn(std::string_view table) const;
-    std::vector<CallerCount> readCallers(const std::string& query);
 
     std::string area_; ///< area column of the calls' geography
 };

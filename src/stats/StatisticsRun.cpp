@@ -14,7 +14,7 @@ StatisticsRun::StatisticsRun(const BoundaryTraits& traits, const std::string& ta
 StatisticsRun::StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period,
                              std::unique_ptr<FigureSource> source)
     : boundary(traits), isMain(equalText(table, traits.mainTable)), target(table, traits, period),
-      figures(std::move(source)), display(isMain) {}
+      figures(std::move(source)), display(isMain || traits.alwaysShowsTexts, isMain) {}
 
 void runStatistics(std::string_view procedure, StatisticsRun& run, const std::function<void()>& steps) {
     gsCurrentProc = procedure;

@@ -17,6 +17,7 @@
 /// always ends and leaves what could be counted.
 struct StatisticsRun {
     StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period);
+    /// With another source of figures than the boundary's; null where it is set later, before the steps that count.
     StatisticsRun(const BoundaryTraits& traits, const std::string& table, int period,
                   std::unique_ptr<FigureSource> source);
 
@@ -68,6 +69,7 @@ void nameMobile(StatisticsRun& run);
 /// A row of zeros where there is no row of the name: 'VOIP'; 'Republic Of Ireland', so that the map has an entity to
 /// show.
 void ensureRow(StatisticsRun& run, std::string_view name);
-/// Removes the rows of these names, a list in quotes.
+/// Removes the rows of these names, a list in quotes, or of the names that fit a pattern.
 void removeRows(StatisticsRun& run, std::string_view names);
+void removeRowsLike(StatisticsRun& run, std::string_view pattern);
 void removeUnnamedAreas(StatisticsRun& run);

@@ -7,7 +7,7 @@
 long StatsProgressStep = 0;
 long StatsProgressMaximum = 0;
 
-StatisticsDisplay::StatisticsDisplay(bool mainTable) : mainTable_(mainTable) {
+StatisticsDisplay::StatisticsDisplay(bool showsTexts, bool mainTable) : showsTexts_(showsTexts), mainTable_(mainTable) {
     progress().setHourglass(true);
 }
 
@@ -17,7 +17,7 @@ StatisticsDisplay::~StatisticsDisplay() {
 }
 
 void StatisticsDisplay::task(std::string_view text) const {
-    if (!mainTable_ || text.empty())
+    if (!showsTexts_ || text.empty())
         return;
     progress().setTask(std::string(text));
     progress().setMessageBar(1, 0);
@@ -25,7 +25,7 @@ void StatisticsDisplay::task(std::string_view text) const {
 }
 
 void StatisticsDisplay::position(std::size_t count, std::size_t at) const {
-    if (!mainTable_)
+    if (!showsTexts_)
         return;
     progress().setMessageBar(static_cast<long>(count), static_cast<long>(at));
     progress().yield();

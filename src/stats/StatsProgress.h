@@ -8,11 +8,12 @@
 extern long StatsProgressStep;
 extern long StatsProgressMaximum;
 
-/// How a statistics run shows itself: by text and message bar where it fills a main table (FrmMessage is up then), by
-/// the report's bar otherwise. Hourglass from construction to destruction, when the report's bar is hidden again.
+/// How a statistics run shows itself: by text and message bar (FrmMessage) where it fills a main table, by the report's
+/// bar otherwise. Customer groups, which are counted anew when the user has changed them, always show their texts.
+/// Hourglass from construction to destruction, when the report's bar is hidden again.
 class StatisticsDisplay {
 public:
-    explicit StatisticsDisplay(bool mainTable);
+    StatisticsDisplay(bool showsTexts, bool mainTable);
     ~StatisticsDisplay();
     StatisticsDisplay(const StatisticsDisplay&) = delete;
     StatisticsDisplay& operator=(const StatisticsDisplay&) = delete;
@@ -25,5 +26,6 @@ public:
     void stepDone() const;
 
 private:
+    bool showsTexts_;
     bool mainTable_;
 };
