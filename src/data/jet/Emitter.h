@@ -3,6 +3,7 @@
 #include "data/jet/Statement.h"
 
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -85,10 +86,14 @@ private:
 
     // LogicEmitter.cpp
     std::string logic(const Expression& expression);
-    std::string junction(const Expression& expression, std::string_view word);
-    static const Expression* listedColumn(const Expression& operand, Operator wanted);
     std::string bits(const Expression& expression);
     std::string bitwise(const Expression& expression);
+
+    // Chains.cpp
+    /// A chain of And or Or.
+    std::string junction(const Expression& expression, std::string_view word);
+    std::string memberOf(const Expression& tested, std::span<const ExpressionPtr> links, bool isOr);
+    std::string likeAny(const Expression& tested, std::span<const ExpressionPtr> links, bool isOr);
 
     // FunctionEmitter.cpp
     std::string function(const Expression& expression);
@@ -105,6 +110,8 @@ private:
 
 /// Whether a logical operator works on numbers, bit by bit.
 bool isBitwise(const Expression& expression);
+/// Many parts in balanced brackets, so that the library's tree stays shallow.
+std::string balanced(std::vector<std::string> parts, std::string_view word);
 /// A value as the storage library writes it.
 std::string literalText(const Value& value);
 /// A column of the storage library, qualified.

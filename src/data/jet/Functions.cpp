@@ -52,18 +52,20 @@ bool isNull(sqlite3_value* value) {
     return sqlite3_value_type(value) == SQLITE_NULL;
 }
 
-void like(sqlite3_context* context, int, sqlite3_value** arguments) {
+/// The text of the first argument against the Pattern read from the second.
+template<typename Pattern, bool (Pattern::*fits)(std::string_view) const>
+void matchPattern(sqlite3_context* context, int, sqlite3_value** arguments) {
     guarded(context, [&] {
         if (isNull(arguments[0]))
             return;
-        if (const auto* pattern = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 1)))
-            return sqlite3_result_int(context, pattern->matches(textOf(arguments[0])));
+        if (const auto* pattern = static_cast<const Pattern*>(sqlite3_get_auxdata(context, 1)))
+            return sqlite3_result_int(context, (pattern->*fits)(textOf(arguments[0])));
         if (isNull(arguments[1]))
             return;
         // The library keeps it only where the pattern is constant, and may let go of it at once.
-        auto made = std::make_unique<LikePattern>(textOf(arguments[1]));
-        sqlite3_result_int(context, made->matches(textOf(arguments[0])));
-        sqlite3_set_auxdata(context, 1, made.release(), [](void* kept) { delete static_cast<LikePattern*>(kept); });
+        auto made = std::make_unique<Pattern>(textOf(arguments[1]));
+        sqlite3_result_int(context, (made.get()->*fits)(textOf(arguments[0])));
+        sqlite3_set_auxdata(context, 1, made.release(), [](void* kept) { delete static_cast<Pattern*>(kept); });
     });
 }
 
@@ -189,7 +191,8 @@ struct OwnFunction {
 };
 
 constexpr std::array ownFunctions{
-    OwnFunction{"jet_like", 2, like},
+    OwnFunction{"jet_like", 2, matchPattern<LikePattern, &LikePattern::matches>},
+    OwnFunction{"jet_like_any", 2, matchPattern<LikePatterns, &LikePatterns::anyMatches>},
     OwnFunction{"jet_begins", 2, beginsWith},
     OwnFunction{"jet_hourminute", 1, hourMinute},
     OwnFunction{"jet_number", 1, number},

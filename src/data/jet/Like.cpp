@@ -5,6 +5,7 @@
 #include "data/types/Value.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace jet {
 
@@ -198,6 +199,29 @@ bool LikePattern::matchesElements(std::string_view text) const {
         text = runRest;
         element = runElement + 1;
     }
+}
+
+/// Each pattern behind its length: "2:a*3:b?c".
+std::string joinedPatterns(const std::vector<std::string>& patterns) {
+    std::string joined;
+    for (const std::string& pattern : patterns)
+        joined += std::to_string(pattern.size()) + ":" + pattern;
+    return joined;
+}
+
+LikePatterns::LikePatterns(std::string_view joined) {
+    while (!joined.empty()) {
+        std::size_t length = 0;
+        std::from_chars(joined.data(), joined.data() + joined.size(), length);
+        joined.remove_prefix(std::min(joined.find(':'), joined.size() - 1) + 1);
+        patterns_.emplace_back(joined.substr(0, length));
+        joined.remove_prefix(std::min(length, joined.size()));
+    }
+}
+
+bool LikePatterns::anyMatches(std::string_view text) const {
+    return std::any_of(patterns_.begin(), patterns_.end(),
+                       [&](const LikePattern& pattern) { return pattern.matches(text); });
 }
 
 bool isLike(std::string_view text, std::string_view pattern) {

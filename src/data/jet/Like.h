@@ -42,6 +42,18 @@ private:
     std::string plain_; ///< the x of a shape; in capitals unless the shape is Plain
 };
 
+/// Several patterns, of which a text must fit one.
+class LikePatterns {
+public:
+    /// Takes what joinedPatterns made.
+    explicit LikePatterns(std::string_view joined);
+    bool anyMatches(std::string_view text) const;
+
+private:
+    std::vector<LikePattern> patterns_;
+};
+std::string joinedPatterns(const std::vector<std::string>& patterns);
+
 /// `text Like pattern`.
 bool isLike(std::string_view text, std::string_view pattern);
 /// `text Like prefix & '*'`, where the prefix mostly holds no wildcards.

@@ -68,7 +68,7 @@ public:
             return "(" + condition(inner) + pick({" And ", " Or ", " Xor "}) + condition(inner) + ")";
         }
         const std::string negation = pick({"", "Not "});
-        switch (below(7)) {
+        switch (below(8)) {
         case 0:
             return "(" + number(inner) + pick({" = ", " <> ", " < ", " <= ", " > ", " >= "}) + number(inner) + ")";
         case 1:
@@ -80,11 +80,29 @@ public:
             return "(" + number(inner) + " " + negation + "In (" + number(0) + ", " + number(0) + ", 7))";
         case 4:
             return "(" + text(inner) + " " + negation + "In ('ab', " + text(0) + "))";
+        case 7:
+            return chain();
         case 5:
             return "(" + number(inner) + " " + negation + "Between " + number(0) + " And " + number(0) + ")";
         default:
             return "(" + text(inner) + pick({" Is Null", " Is Not Null"}) + ")";
         }
+    }
+
+    /// Neighbours that test the same value, of which a statement makes one list or one test of patterns.
+    std::string chain() {
+        const bool isOr = below(2) == 0;
+        const std::string tested = pick({"t", "UCase(u)", "a", "Trim(t)"});
+        const bool patterns = tested != "a" && below(2) == 0;
+        std::string links;
+        for (int i = 0; i < 6; ++i) {
+            const std::string wanted =
+                tested == "a" ? pick({"0", "1", "2", "-3"}) : pick({"'ab'", "'x'", "'AB '", "''"});
+            const std::string pattern = pick({"'a*'", "'*B'", "'[!x]*'", "'?'", "'#'", "'ab'"});
+            links += (i == 0 ? "" : isOr ? " Or " : " And ") + tested;
+            links += patterns ? (isOr ? " Like " : " Not Like ") + pattern : (isOr ? " = " : " <> ") + wanted;
+        }
+        return "(" + links + ")";
     }
 
     std::string cellText() {
