@@ -136,6 +136,21 @@ void addColumns(Program& program, const Table& table, const AlterTable& alter, C
         program.steps.push_back({Step::Kind::Execute, createIndexText(altered, indexOf(altered, key))});
 }
 
+/// The column as its new definition says; what the definition does not name stays, where the new type can have it.
+Field alteredField(const Field& old, const Field& definition) {
+    Field field = definition;
+    field.name = old.name;
+    if (field.counter)
+        return field;
+    field.required = field.required || old.required;
+    if (isText(old.type) && isText(field.type))
+        field.allowZeroLength = field.allowZeroLength && old.allowZeroLength;
+    const bool keepsDefault = isText(field.type) || (isNumeric(old.type) && isNumeric(field.type));
+    if (!field.defaultValue && keepsDefault)
+        field.defaultValue = old.defaultValue;
+    return field;
+}
+
 void alterColumns(Program& program, const Table& table, const AlterTable& alter, Catalog& catalog) {
     Table altered = table;
     std::vector<std::string> values;
@@ -148,8 +163,7 @@ void alterColumns(Program& program, const Table& table, const AlterTable& alter,
         StaticType type;
         type.type = old.type;
         type.size = old.size;
-        altered.columns[at] = column.field;
-        altered.columns[at].name = old.name;
+        altered.columns[at] = alteredField(old, column.field);
         // A narrower text column keeps the texts that it has; only new ones must fit.
         if (!isText(old.type) || !isText(column.field.type))
             values[at] = convertedText(values[at], type, altered.columns[at], column.position);

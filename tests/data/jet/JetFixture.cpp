@@ -170,12 +170,17 @@ std::optional<jet::Table> JetFixture::find(const std::string& schema, std::strin
         table.name = rows.text(0);
         table.isView = rows.text(1) == "view";
     }
-    Rows columns(connection_, "SELECT name, type FROM pragma_table_info(" + quoteLiteral(table.name) + ", " +
-                                  quoteLiteral(schema) + ")");
+    Rows columns(connection_, "SELECT name, type, \"notnull\", dflt_value FROM pragma_table_info(" +
+                                  quoteLiteral(table.name) + ", " + quoteLiteral(schema) + ")");
     while (columns.next()) {
         const auto field = fieldOfDeclaredType(columns.text(1));
         table.columns.push_back(field.value_or(Field{}));
         table.columns.back().name = columns.text(0);
+        table.columns.back().required = columns.text(2) == "1";
+        const std::string byDefault = columns.text(3);
+        const bool givenByType = table.columns.back().type == FieldType::Boolean && byDefault == "0";
+        if (!byDefault.empty() && !givenByType)
+            table.columns.back().defaultValue = byDefault;
     }
     return table;
 }
