@@ -261,7 +261,7 @@ TEST_F(GroupSelection, AGroupTakesFifteenHundredNumbers) {
                                   "using Manage Community Group"});
     EXPECT_EQ(prompts.styles, std::vector<PromptStyle>{PromptStyle::Information});
 
-    select(parametersOf([](auto&) {}));
+    EXPECT_EQ(select(communityGroup("")), days + " AND TblTeleItem.NetAddress LIKE 'D1' ") << "no group is chosen";
     EXPECT_TRUE(GroupLimitExceeded) << "whoever runs the report clears it";
 }
 
