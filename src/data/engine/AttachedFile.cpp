@@ -87,7 +87,7 @@ DatabaseError AttachedFile::withPaths(const DatabaseError& error) const {
         words.find('\'') != std::string::npos)
         return error;
     words += ": '" + path_ + "'";
-    for (const auto& other : held_)
+    for (const auto& other : held())
         words += " or '" + other->path() + "'";
     return {error.number(), words, error.position()};
 }
@@ -169,14 +169,26 @@ jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
 void AttachedFile::hold(const std::shared_ptr<AttachedFile>& other) {
     if (other.get() == this)
         return;
-    std::erase(held_, other);
+    letGo(other->path());
     held_.push_back(other);
     if (held_.size() > mostHeld)
         held_.erase(held_.begin());
 }
 
 void AttachedFile::letGo(std::string_view path) {
-    std::erase_if(held_, [&](const auto& other) { return other->path() == path; });
+    std::erase_if(held_, [&](const auto& held) {
+        const auto other = held.lock();
+        return !other || other->path() == path;
+    });
+}
+
+std::vector<std::shared_ptr<AttachedFile>> AttachedFile::held() const {
+    std::vector<std::shared_ptr<AttachedFile>> files;
+    for (const auto& held : held_) {
+        if (auto file = held.lock())
+            files.push_back(std::move(file));
+    }
+    return files;
 }
 
 void AttachedFile::addLink(const Link& link) {

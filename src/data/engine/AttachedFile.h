@@ -56,6 +56,7 @@ public:
     /// others since: a connection takes a limited number of files.
     void hold(const std::shared_ptr<AttachedFile>& other);
     void letGo(std::string_view path);
+    std::vector<std::shared_ptr<AttachedFile>> held() const;
 
     /// Runs `work`. An error of the disk that comes out of it, such as a full one, gets the paths of this file and of
     /// those that its links have opened.
@@ -82,7 +83,7 @@ private:
     std::int64_t generation_ = 0;
     std::map<std::string, jet::Table> tables_;
     std::map<std::string, Link> links_;
-    std::vector<std::shared_ptr<AttachedFile>> held_; ///< the one used last at the end
+    std::vector<std::weak_ptr<AttachedFile>> held_; ///< the one used last at the end; the workspace owns them
 };
 
 /// Tables of the engine itself, which the dialect does not show.

@@ -33,11 +33,22 @@ std::shared_ptr<AttachedFile> Workspace::Impl::attachedAs(std::string_view schem
 }
 
 void Workspace::Impl::detachUnused() {
-    // A file that goes may have held others through its links, so that another round is due.
-    while (!connection->inTransaction()) {
-        if (std::erase_if(files_, [](const auto& file) { return file.second.use_count() == 1; }) == 0)
-            return;
+    if (connection->inTransaction())
+        return;
+    std::vector<std::shared_ptr<AttachedFile>> used;
+    for (const auto& [path, file] : files_) {
+        if (file.use_count() > 1)
+            used.push_back(file);
     }
+    // Links may lead in a ring, so that files are followed from those in use.
+    for (std::size_t i = 0; i < used.size(); ++i) {
+        for (const auto& other : used[i]->held()) {
+            if (std::find(used.begin(), used.end(), other) == used.end())
+                used.push_back(other);
+        }
+    }
+    std::erase_if(files_,
+                  [&](const auto& file) { return std::find(used.begin(), used.end(), file.second) == used.end(); });
 }
 
 void Workspace::Impl::commitLevel(const std::string& sql) {

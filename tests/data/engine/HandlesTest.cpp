@@ -8,6 +8,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <utility>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -110,6 +111,27 @@ TEST_F(Handles, MayBeDroppedInAnyOrder) {
     EXPECT_EQ(faultOf([&] { second->close(); }), 3420);
     EXPECT_FALSE(second->isOpen());
     rows->Close();
+}
+
+TEST_F(Handles, FilesWithLinksToEachOtherAreLetGoTogether) {
+    const std::string paths[] = {folder.file("a.mdb"), folder.file("b.mdb")};
+    for (const std::string& path : paths)
+        make(path);
+    auto a = workspace->openDatabase(paths[0]);
+    {
+        const auto b = workspace->openDatabase(paths[1]);
+        for (const auto& [from, to] : {std::pair{a, paths[1]}, std::pair{b, paths[0]}}) {
+            TableDef link = from->createTableDef("Other_Link");
+            link.connect = "MS Access;DATABASE=" + to;
+            link.sourceTableName = "TblTeleItem";
+            from->tableDefs().append(link);
+            EXPECT_EQ(from->openRecordset("Other_Link")->RecordCount(), 1);
+        }
+    }
+    EXPECT_EQ(a->openRecordset("Other_Link")->RecordCount(), 1); // still held through the link
+    a->close();
+    for (const std::string& path : paths)
+        EXPECT_NO_THROW(workspace->openDatabase(path, Access::Exclusive)) << path;
 }
 
 /// The library attaches at most 125 files to a connection; a day's work opens more.
