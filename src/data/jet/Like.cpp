@@ -36,14 +36,16 @@ bool sameWithoutCase(const char* text, const std::string& upper) {
 /// otherwise keep the program for hours.
 class Effort {
 public:
+    explicit Effort(std::string_view text) : most_(5'000'000 + 20 * text.size()) {}
     void add(std::size_t comparisons) {
         spent_ += comparisons;
-        if (spent_ > 50'000'000)
+        if (spent_ > most_)
             throw RuntimeError(3360, "The pattern of Like is too complex for so long a text");
     }
 
 private:
     std::size_t spent_ = 0;
+    std::size_t most_;
 };
 
 } // namespace
@@ -150,7 +152,7 @@ bool LikePattern::matches(std::string_view text) const {
 }
 
 bool LikePattern::isInside(std::string_view text) const {
-    Effort effort;
+    Effort effort(text);
     for (std::size_t at = 0; at + plain_.size() <= text.size(); ++at) {
         const std::size_t shared = sharedWithoutCase(text.data() + at, plain_);
         if (shared == plain_.size())
@@ -171,7 +173,7 @@ bool LikePattern::matchesElements(std::string_view text) const {
     std::size_t element = 0;
     std::size_t runElement = elements_.size();
     std::string_view runRest;
-    Effort effort;
+    Effort effort(text);
     while (true) {
         effort.add(1);
         if (element < elements_.size() && elements_[element].kind == Element::Kind::AnyRun) {
