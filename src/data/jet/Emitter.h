@@ -29,8 +29,10 @@ public:
     /// where the types do not convert at all.
     std::string assigned(const Expression& expression, const Field& field);
 
-    /// A FROM clause whose tables all have row numbers.
-    std::string from(const std::vector<std::unique_ptr<FromItem>>& items);
+    /// The FROM clause of a change, in which the `changed` tables have their row numbers. To be called before the
+    /// condition behind WHERE is written.
+    std::string fromOfChange(const std::vector<std::unique_ptr<FromItem>>& items, const Expression* where,
+                             std::vector<const Source*> changed);
 
 private:
     /// How a SELECT is wanted.
@@ -52,6 +54,7 @@ private:
     std::string topBound(const Select& select, const Form& form);
     std::string orderBy(const Select& select, const Form& form);
     std::string sortKey(const Expression& key);
+    std::string from(const std::vector<std::unique_ptr<FromItem>>& items);
     std::string fromItem(const FromItem& item);
     std::string innerJoin(const FromItem& item);
     void collectInner(const FromItem& item, std::vector<const FromItem*>& tables,
@@ -60,7 +63,7 @@ private:
     std::string outerJoin(const FromItem& item);
 
     // KeyedTables.cpp
-    void findKeys(const Select& select);
+    void findKeys(const std::vector<std::unique_ptr<FromItem>>& from, const Expression* where);
     void keysOfJoins(const FromItem& item, const std::vector<const Source*>& certain);
     void keysOfCondition(const Expression& condition, const std::vector<const Source*>& certain, const Source* wanted);
     void addKey(const Expression& expression);
@@ -102,6 +105,8 @@ private:
     std::string dialectCall(const Expression& expression);
     std::string aggregate(const Expression& expression);
 
+    /// Tables whose row numbers are needed, so that they stand bare among those that are joined.
+    std::vector<const Source*> changed_;
     /// Calculated texts by which a table is joined, as columns "%key0", "%key1" … of it.
     std::map<const Source*, std::vector<const Expression*>> keys_;
     /// Tables of which the distinct values of one column are enough, with that column.

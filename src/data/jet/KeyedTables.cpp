@@ -34,7 +34,7 @@ const Source* onlySource(const Expression& expression) {
 }
 
 bool isCalculatedText(const Expression& expression) {
-    return expression.kind == Kind::Function && isText(expression.bound.type);
+    return (expression.kind == Kind::Function || expression.kind == Kind::Arithmetic) && isText(expression.bound.type);
 }
 
 using Sources = std::vector<const Source*>;
@@ -83,7 +83,7 @@ void Emitter::keysOfCondition(const Expression& condition, const Sources& certai
         return;
     if (wanted) {
         for (const Expression* side : {&left, &right}) {
-            if (onlySource(*side) == wanted && isCalculatedText(*side))
+            if (onlySource(*side) == wanted && isCalculatedText(*side) && !holds(changed_, wanted))
                 addKey(*side);
         }
         return;
@@ -91,8 +91,12 @@ void Emitter::keysOfCondition(const Expression& condition, const Sources& certai
     // A plain column on either side can have an index of the library's own.
     if (!isCalculatedText(left) || !isCalculatedText(right))
         return;
-    if (holds(certain, rightSource) && holds(certain, leftSource))
+    if (!holds(certain, rightSource) || !holds(certain, leftSource))
+        return;
+    if (!holds(changed_, rightSource))
         addKey(right);
+    else if (!holds(changed_, leftSource))
+        addKey(left);
 }
 
 void Emitter::keysOfJoins(const FromItem& item, const Sources& certain) {
@@ -107,14 +111,21 @@ void Emitter::keysOfJoins(const FromItem& item, const Sources& certain) {
         keysOfCondition(*item.on, certain, optional.source.get());
 }
 
-void Emitter::findKeys(const Select& select) {
+void Emitter::findKeys(const std::vector<std::unique_ptr<FromItem>>& from, const Expression* where) {
     Sources certain;
-    for (const auto& item : select.from)
+    for (const auto& item : from)
         collectCertain(*item, certain);
-    for (const auto& item : select.from)
+    for (const auto& item : from)
         keysOfJoins(*item, certain);
-    if (select.where && certain.size() > 1)
-        keysOfCondition(*select.where, certain, nullptr);
+    if (where && certain.size() > 1)
+        keysOfCondition(*where, certain, nullptr);
+}
+
+std::string Emitter::fromOfChange(const std::vector<std::unique_ptr<FromItem>>& items, const Expression* where,
+                                  Sources changed) {
+    changed_ = std::move(changed);
+    findKeys(items, where);
+    return from(items);
 }
 
 std::string Emitter::keyText(const Expression& expression) const {

@@ -138,7 +138,7 @@ std::string Emitter::outputList(const Select& select, const Form& form) {
 std::string Emitter::clauses(const Select& select, const std::string& alsoWhere) {
     std::string sql;
     if (!select.from.empty()) {
-        findKeys(select);
+        findKeys(select.from, select.where.get());
         findDistinctJoins(select);
         sql += " FROM " + from(select.from);
     }

@@ -65,7 +65,7 @@ std::string joinedValues(const Update& update, const std::vector<const Source*>&
     for (std::size_t i = 0; i < update.assignments.size(); ++i)
         sql += ", " + emitter.assigned(*update.assignments[i].value, fieldOf(*update.assignments[i].target)) + " AS v" +
                std::to_string(i);
-    sql += " FROM " + emitter.from(update.from);
+    sql += " FROM " + emitter.fromOfChange(update.from, update.where.get(), changed);
     return update.where ? sql + " WHERE " + emitter.condition(*update.where) : sql;
 }
 
@@ -146,14 +146,16 @@ Program translateDelete(Delete& deletion, Catalog& catalog) {
     if (!source.table)
         throw DatabaseError(3073, "The rows of a query cannot be changed", deletion.position);
     checkChangeable(*source.table, deletion.position);
-    const std::string where = deletion.where ? " WHERE " + emitter.condition(*deletion.where) : std::string();
     Program program;
     std::string sql = "DELETE FROM " + aliased(source);
-    if (tables.size() == 1)
-        sql += where;
-    else
+    if (tables.size() > 1)
         sql = "DELETE FROM " + qualifiedName(*source.table) + " WHERE " + rowidName(source.table->columns) +
-              " IN (SELECT " + rowOf(source) + " FROM " + emitter.from(deletion.from) + where + ")";
+              " IN (SELECT " + rowOf(source) + " FROM " +
+              emitter.fromOfChange(deletion.from, deletion.where.get(), {&source});
+    if (deletion.where)
+        sql += " WHERE " + emitter.condition(*deletion.where);
+    if (tables.size() > 1)
+        sql += ")";
     program.steps.push_back({Step::Kind::Count, sql});
     return program;
 }
