@@ -32,18 +32,24 @@ Statement StatementParser::byFirstWord(long& error) {
         error = 3128;
         return deletion();
     }
-    if (tokens_.isWord("CREATE"))
+    if (tokens_.isWord("CREATE")) {
+        error = 3290;
         return create();
-    if (tokens_.isWord("DROP"))
+    }
+    if (tokens_.isWord("DROP")) {
+        error = 3295;
         return drop();
-    if (tokens_.isWord("ALTER"))
+    }
+    if (tokens_.isWord("ALTER")) {
+        error = 3293;
         return alter();
+    }
     throw DatabaseError(3129, "Invalid SQL statement; expected SELECT, INSERT, UPDATE, DELETE, CREATE, DROP or ALTER",
                         tokens_.peek().position);
 }
 
 Statement StatementParser::statement() {
-    long error = 3000;
+    long error = 3129;
     Statement result = byFirstWord(error);
     if (tokens_.acceptSymbol(";") && !tokens_.atEnd())
         throw DatabaseError(3142, "Characters found behind the end of the statement", tokens_.peek().position);

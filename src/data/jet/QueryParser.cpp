@@ -123,8 +123,10 @@ SelectColumn StatementParser::selectColumn() {
         tokens_.isWord("INTO"))
         tokens_.fail(selectError);
     column.expression = expression(Follower::Alias);
-    // Two names in a row are no alias but an apostrophe inside a pasted text: 'KING'S LYNN'.
-    if (tokens_.isName() && tokens_.isName(1))
+    // A name before another name or a text is no alias but stands behind an apostrophe inside a pasted text:
+    // 'KING'S LYNN', 'O'BRIEN' AS Name, 'x'.
+    const Token::Kind behind = tokens_.isName() ? tokens_.peek(1).kind : Token::Kind::End;
+    if (behind == Token::Kind::Text || behind == Token::Kind::Bad || (tokens_.isName() && tokens_.isName(1)))
         tokens_.fail(expressionError_);
     column.alias = optionalAlias(selectError);
     return column;
