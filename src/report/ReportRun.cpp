@@ -2,13 +2,21 @@
 
 #include "core/ModDeclarations.h"
 #include "core/RuntimeError.h"
+#include "data/project/Databases.h"
+#include "data/project/FirstValue.h"
 #include "report/OpenInstallation.h"
 #include "report/WorkOutFilterActive.h"
 #include "stats/CurrentTables.h"
 #include "stats/MapMaxima.h"
 #include "stats/ModData_MaxValues.h"
+#include "stats/ModData_SelectedCSGData.h"
+#include "stats/ModData_SelectedCustomerGroups.h"
+#include "stats/ModData_SelectedExchangeData.h"
+#include "stats/ModData_SelectedPostCodeData.h"
 #include "stats/ModData_SelectedTVArea.h"
 #include "stats/ModData_Setup_SQLSelection.h"
+#include "stats/ModData_UpdateCallDataByPopulationDensity.h"
+#include "stats/ModUtilities_CreateAverageCallsTables.h"
 #include "stats/SelectionState.h"
 
 namespace {
@@ -22,10 +30,19 @@ struct BoundaryReport {
     std::string_view mainTable;
     std::string_view selectedTable;
     StatisticsProcedure procedure;
+    bool derivesMeasures = false; ///< has calls for each caller and rates for each head of population
 };
 
+constexpr long customerGroupsCode = 5;
+
 constexpr BoundaryReport boundaryReports[] = {
-    {2, "TVRegion", "TblTV", "TblSelectedDataForTV", &ModData_SelectedTVArea},
+    {0, "Exchange", "TblExchangeArea", "TblSelectedDataForExchangeArea", &ModData_SelectedExchangeData},
+    {1, "CSG", "TblCSG", "TblSelectedDataForCSG", &ModData_SelectedCSGData},
+    {2, "TVRegion", "TblTV", "TblSelectedDataForTV", &ModData_SelectedTVArea, true},
+    {3, "PostcodeDistrict", "TblPostCodeDistrict", "TblSelectedDataForPostCodeDistrict", &ModData_SelectedPostCodeData,
+     true},
+    {customerGroupsCode, "CustomerGroups", "TblCustomerGroups", "TblSelectedDataForCustomerGroups",
+     &ModData_SelectedCustomerGroups},
 };
 
 const BoundaryReport& reportOf(long boundary) {
@@ -33,8 +50,15 @@ const BoundaryReport& reportOf(long boundary) {
         if (report.boundary == boundary)
             return report;
     }
-    throw RuntimeError(5, "Calls can be counted by TV region only; boundary " + std::to_string(boundary) +
-                              " has no figures");
+    throw RuntimeError(5, "There is no boundary " + std::to_string(boundary));
+}
+
+void requireGroups() {
+    const bool has = projectDatabase().tableDefs().find("tblGroups") &&
+                     countOf(projectDatabase(), "SELECT Count(*) FROM tblGroups WHERE GroupName <> ''") > 0;
+    if (!has)
+        throw RuntimeError(5, "No Customer Groups have been set up. Please do this in Callscope before attempting to "
+                              "update Groups with Callscope Mapping");
 }
 
 void buildSelection(const ReportParameters& parameters) {
@@ -60,13 +84,23 @@ std::string mainTable(long boundary) {
 
 void countWholeProject(long boundary) {
     const BoundaryReport& report = reportOf(boundary);
+    if (boundary == customerGroupsCode)
+        requireGroups();
     SelectionSql.clear();
+    FilterActive = false;
     report.procedure(std::string(report.mainTable), 1);
+    if (!report.derivesMeasures)
+        return;
+    ModUtilities_CreateAverageCallsTables();
+    if (ModData_UpdateCallDataByPopulationDensity() != 0)
+        throw RuntimeError(5, "The calls could not be divided by the population");
 }
 
 ReportFigures runReport(long boundary, const ReportParameters& parameters) {
     const BoundaryReport& report = reportOf(boundary);
     const ReportParameters whole = wholeProject();
+    if (boundary == customerGroupsCode)
+        requireGroups();
     currentTables.clear();
     gsBoundaryType = report.boundaryType;
     FilterActive = workOutFilterActive(parameters, whole.DTStart, whole.DTEnd);
@@ -76,6 +110,8 @@ ReportFigures runReport(long boundary, const ReportParameters& parameters) {
     figures.table = FilterActive ? report.selectedTable : report.mainTable;
     if (FilterActive)
         report.procedure(figures.table, 1);
+    if (FilterActive && report.derivesMeasures)
+        ModUtilities_CreateAverageCallsTables();
     *currentTables.of(boundary) = figures.table;
     mapMaxima.resetForRun();
     ModData_MaxValues(figures.table, 1);

@@ -10,13 +10,14 @@ struct ReportFigures {
     bool filtered = false; ///< the table is the selected one
 };
 
-/// Counts what the parameters select for one boundary (2: TV regions) and finds the maxima, as a report button does.
-/// Without a filter the main table is taken as it stands. Throws RuntimeError 5 where the boundary's figures cannot be
-/// counted or the selection holds a community group that is too large.
+/// Counts what the parameters select for one boundary (0 exchanges, 1 CSGs, 2 TV regions, 3 postcode districts, 5
+/// customer groups) and finds the maxima, as a report button does. Without a filter the main table is taken as it
+/// stands. Throws RuntimeError 5 where there is no such boundary, the project has no customer groups, or the selection
+/// holds a community group that is too large.
 ReportFigures runReport(long boundary, const ReportParameters& parameters);
 
-/// Counts the whole project into the main table of a boundary. Throws RuntimeError 5 where its figures cannot be
-/// counted.
+/// Counts the whole project into the main table of a boundary, with the measures that are derived from it. Throws
+/// RuntimeError 5 as runReport does, and where those measures failed.
 void countWholeProject(long boundary);
-/// The main table of a boundary. Throws RuntimeError 5 where its figures cannot be counted.
+/// The main table of a boundary. Throws RuntimeError 5 where there is no such boundary.
 std::string mainTable(long boundary);

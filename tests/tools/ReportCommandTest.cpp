@@ -27,8 +27,9 @@ protected:
 
     static ToolRun report(std::vector<std::string> arguments, const std::string& dir = installation(),
                           const std::string& file = project()) {
-        arguments.insert(arguments.begin(),
-                         {"report", "--dir", dir, "--project", file, "--boundary", "tv", "--map-type", "Total Calls"});
+        if (std::find(arguments.begin(), arguments.end(), "--boundary") == arguments.end())
+            arguments.insert(arguments.begin(), {"--boundary", "tv"});
+        arguments.insert(arguments.begin(), {"report", "--dir", dir, "--project", file, "--map-type", "Total Calls"});
         return runTool(arguments);
     }
 
@@ -98,6 +99,40 @@ TEST_F(ReportCommand, ASelectionCountsFewerCallsIntoTheSelectedTable) {
                     "SELECT TotalCalls1 FROM TblSelectedDataForTV WHERE TVRegion = 'Mobile'")
                   .substr(12),
               expected.substr(expected.find('\n') + 1));
+}
+
+TEST_F(ReportCommand, EveryBoundaryCountsItsCallsAndWritesItsRows) {
+    struct Boundary {
+        const char* name;
+        const char* table;
+        const char* calls; ///< all of the project, but where told
+    };
+    const std::string map = folder->file("sample/app/ukmap.mdb");
+    const auto count = [&](const std::string& condition) {
+        return query(project(), "QzMarlKey",
+                     "SELECT Count(*) AS Calls FROM TblTeleItem AS t INNER JOIN TblMappingGIS AS g ON t.[1141] = "
+                     "g.[1141]" +
+                         condition);
+    };
+    for (const Boundary& boundary :
+         {Boundary{"exchange", "ExchangeArea", ""},
+          // Areas that are no numbers are not counted, but for some of those beside the map.
+          Boundary{"csg", "CSG", " WHERE IsNumeric(CSG) OR CSG IN ('MOBILE', 'NO CLI', 'UNTRACEAB', 'VOIP')"},
+          Boundary{"postcode", "PostCodeDistrict", ""},
+          Boundary{"groups", "CustomerGroups",
+                   " WHERE PostCode IN (SELECT Reference FROM TblGroups WHERE GroupName <> '')"}}) {
+        const std::string csv = folder->file(std::string(boundary.name) + ".csv");
+        const ToolRun run = report({"--boundary", boundary.name, "--csv", csv});
+        ASSERT_EQ(run.status, 0) << boundary.name << run.errors;
+        EXPECT_EQ(query(map, "VtDrmkqpwzs", std::string("SELECT Sum(TotalCalls1) AS Calls FROM Tbl") + boundary.table),
+                  count(boundary.calls))
+            << boundary.name;
+        EXPECT_GT(fileContents(csv).size(), 500u) << boundary.name;
+        const ToolRun filtered = report({"--boundary", boundary.name, "--from", "09:00", "--to", "12:00"});
+        ASSERT_EQ(filtered.status, 0) << boundary.name << filtered.errors;
+        EXPECT_NE(filtered.output.find(std::string("TblSelectedDataFor") + boundary.table), std::string::npos)
+            << filtered.output;
+    }
 }
 
 struct BadFile {
