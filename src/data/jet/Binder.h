@@ -65,6 +65,8 @@ bool hasAggregate(const Expression& expression);
 /// Whether a table of the FROM item, or one joined in it, is `source`.
 bool holdsSource(const FromItem& item, const Source* source);
 
+/// Makes a truth of the words Yes and No where no column has that name.
+bool becomesTruth(Expression& name);
 /// The function that the expression calls. Throws 3085 where there is none, 3075 for a wrong number of arguments.
 const ScalarFunction& functionOf(const Expression& expression);
 

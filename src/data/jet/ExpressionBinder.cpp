@@ -208,7 +208,9 @@ void Binder::column(Expression& expression, Scope& scope) {
         if (columnIn(expression, *at))
             return;
     }
-    unknownName(expression);
+    if (!becomesTruth(expression))
+        unknownName(expression);
+    expression.bound.type = typeOf(expression.literal);
 }
 
 /// Looks the name up among the tables of one query, then among its aliases.
@@ -253,6 +255,15 @@ bool Binder::columnIn(Expression& expression, Scope& scope) {
         return true;
     }
     return false;
+}
+
+bool becomesTruth(Expression& name) {
+    const bool yes = equalText(name.name, "Yes");
+    if (!name.qualifier.empty() || (!yes && !equalText(name.name, "No")))
+        return false;
+    name.kind = Expression::Kind::Literal;
+    name.literal = Value(yes);
+    return true;
 }
 
 const ScalarFunction& functionOf(const Expression& expression) {

@@ -18,6 +18,8 @@ void bindColumns(Expression& expression, const Search::ColumnLookup& columns) {
             column = columns(expression.qualifier + "." + expression.name);
         if (column < 0)
             column = columns(expression.name);
+        if (column < 0 && becomesTruth(expression))
+            break;
         if (column < 0)
             throw DatabaseError(3070, "'" + expression.name + "' is not a valid field name or expression",
                                 expression.position);

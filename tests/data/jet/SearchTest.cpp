@@ -57,6 +57,8 @@ TEST(Search, FindsRowsAsAWhereClauseWould) {
              "Started >= #01/31/2025# And Started - #08:00:00# = #01/31/2025#",
              "Active",
              "Active = True And Not Active = 0",
+             "Active = Yes And Not Active = No",
+             "TVRegion = 'a' Or TVRegion = 'b' Or TVRegion = 'c' Or TVRegion = 'london'",
              "[1141] Is Null And IsNull([1141])",
              "Nz([1141], 'MOBILE') = 'mobile'",
              "Not ([1141] = 'x') Or Calls = 10",
