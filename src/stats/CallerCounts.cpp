@@ -62,3 +62,10 @@ void countAnsweredCallers(StatisticsRun& run) {
     writeCallers(run, CallerKind::Answered, Measure::AnsweredCallers, Fallback::AreaAsItIs);
     run.display.stepDone();
 }
+
+void countCallers(StatisticsRun& run) {
+    findAnsweredCallers(run);
+    findLostCallers(run);
+    countLostCallers(run);
+    countAnsweredCallers(run);
+}

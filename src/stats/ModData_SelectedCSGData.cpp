@@ -8,14 +8,9 @@ void ModData_SelectedCSGData(const std::string& tableName, int period) {
     runStatistics("ModData_SelectedCSGData", run, [&] {
         selectCalls(run);
         rebuildRows(run);
-        countCalls(run);
-        sumCost(run);
-        sumRevenue(run);
+        countCallsAndMoney(run);
         if (period == 1) {
-            findAnsweredCallers(run);
-            findLostCallers(run);
-            countLostCallers(run);
-            countAnsweredCallers(run);
+            countCallers(run);
             foldUnplacedAndOverseas(run, EmptySums::Null);
             nameMobile(run);
         } else {

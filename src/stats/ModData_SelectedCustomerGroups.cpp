@@ -67,9 +67,7 @@ void countGroups(StatisticsRun& run, const std::optional<GroupAreas>& areas) {
         selectCalls(run);
     }
     keepOrRebuildRows(run);
-    countCalls(run);
-    sumCost(run);
-    sumRevenue(run);
+    countCallsAndMoney(run);
     if (run.target.period() == 1) {
         findAnsweredCallers(run);
         run.figures->makeCallers(CallerKind::Lost, {}); // of all dates

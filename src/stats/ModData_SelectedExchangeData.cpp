@@ -9,14 +9,9 @@ void ModData_SelectedExchangeData(const std::string& tableName, int period) {
     runStatistics("ModData_SelectedExchangeData", run, [&] {
         selectCalls(run);
         rebuildRows(run);
-        countCalls(run);
-        sumCost(run);
-        sumRevenue(run);
+        countCallsAndMoney(run);
         if (period == 1) {
-            findAnsweredCallers(run);
-            findLostCallers(run);
-            countLostCallers(run);
-            countAnsweredCallers(run);
+            countCallers(run);
             foldPseudoAreas(run, EmptySums::Zero);
         } else {
             removeRows(run, "'MOBILE', 'OTHER', 'International'");

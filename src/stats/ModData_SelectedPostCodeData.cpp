@@ -6,25 +6,12 @@
 #include "stats/ModData_UpdateSpecialRows.h"
 #include "stats/StatisticsRun.h"
 
-namespace {
-
-void countCallers(StatisticsRun& run) {
-    findAnsweredCallers(run);
-    findLostCallers(run);
-    countLostCallers(run);
-    countAnsweredCallers(run);
-}
-
-} // namespace
-
 void ModData_SelectedPostCodeData(const std::string& tableName, int period) {
     StatisticsRun run(postcodeDistricts, tableName, period);
     runStatistics("ModData_SelectedPostCodeData", run, [&] {
         selectCalls(run);
         keepOrRebuildRows(run);
-        countCalls(run);
-        sumCost(run);
-        sumRevenue(run);
+        countCallsAndMoney(run);
         if (period == 1 || (period == 2 && equalText(tableName, "TblSelectedDataForPostCodeDistrict")))
             countCallers(run);
         if (period == 1) {

@@ -9,13 +9,8 @@ void ModData_SelectedTVArea(const std::string& tableName, int period) {
     runStatistics("ModData_SelectedTVArea", run, [&] {
         selectCalls(run);
         keepOrRebuildRows(run);
-        countCalls(run);
-        sumCost(run);
-        sumRevenue(run);
-        findAnsweredCallers(run);
-        findLostCallers(run);
-        countLostCallers(run);
-        countAnsweredCallers(run);
+        countCallsAndMoney(run);
+        countCallers(run);
         if (period == 1)
             foldPseudoAreas(run, EmptySums::Zero);
         if (isAnimatedTable(tableName) || isSelectedTable(tableName))

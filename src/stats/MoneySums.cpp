@@ -40,3 +40,9 @@ void sumRevenue(StatisticsRun& run) {
     writeSums(run, run.figures->moneyByArea(CallMoney::Revenue), Measure::Revenue);
     run.display.stepDone();
 }
+
+void countCallsAndMoney(StatisticsRun& run) {
+    countCalls(run);
+    sumCost(run);
+    sumRevenue(run);
+}

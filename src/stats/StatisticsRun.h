@@ -48,6 +48,8 @@ void countCalls(StatisticsRun& run);
 /// the first row); the whole sums are those of the side-panel rows.
 void sumCost(StatisticsRun& run);
 void sumRevenue(StatisticsRun& run);
+/// All of these.
+void countCallsAndMoney(StatisticsRun& run);
 
 /// The callers into TblAnsweredCallers and TblLostCallers.
 void findAnsweredCallers(StatisticsRun& run);
@@ -55,6 +57,8 @@ void findLostCallers(StatisticsRun& run);
 /// LostCallers and AnsweredCallers; areas that have no row are dropped.
 void countLostCallers(StatisticsRun& run);
 void countAnsweredCallers(StatisticsRun& run);
+/// All of these.
+void countCallers(StatisticsRun& run);
 
 /// What the sums of a row are where there is no row to sum.
 enum class EmptySums { Zero, Null };
