@@ -36,7 +36,7 @@ bool sameWithoutCase(const char* text, const std::string& upper) {
 /// otherwise keep the program for hours.
 class Effort {
 public:
-    explicit Effort(std::string_view text) : most_(5'000'000 + 20 * text.size()) {}
+    explicit Effort(std::string_view text) : most_(5'000'000 + 8 * text.size()) {}
     void add(std::size_t comparisons) {
         spent_ += comparisons;
         if (spent_ > most_)
