@@ -324,3 +324,64 @@ TEST(RandomJoins, KeysThatDifferInCaseAndBlanksMeet) {
                             "SELECT Count(Keys.k) AS c FROM Many LEFT JOIN Keys ON Trim(Many.k) = Trim(Keys.k)"})
         EXPECT_EQ(database.run(sql).rows.front().front(), count) << sql;
 }
+
+/// Keys of calculated texts, the distinct values of a table and the order of joins are chosen for equality only: the
+/// same question with "Not … <> …" is answered pair by pair.
+TEST(RandomJoins, CalculatedTextsMeetAsPairByPair) {
+    JetFixture database;
+    Maker maker(41);
+    for (const char* table : {"A", "B", "C"}) {
+        database.run(std::string("CREATE TABLE ") + table + " (n Long, x Text(20), y Memo)");
+        for (int i = 0; i < 25; ++i) {
+            const auto text = [&] {
+                return maker.pick({"Null", "''", "' '", "'ab'", "'AB '", "' ab'", "'abc'", "'É'", "'é '", "'b'"});
+            };
+            database.run(std::string("INSERT INTO ") + table + " VALUES (" + std::to_string(i) + ", " + text() + ", " +
+                         text() + ")");
+        }
+    }
+    const auto side = [&](const std::string& table) {
+        const std::string column = table + maker.pick({".x", ".y"});
+        const std::string shape = maker.pick({"#", "Trim(#)", "UCase(Trim(#))", "Left(#, 2)", "# & ''", "Mid(#, 2)",
+                                              "Nz(#, 'ab')", "LTrim(#) & 'a'", "(# + ' ')"});
+        return std::string(shape).replace(shape.find('#'), 1, column);
+    };
+    const auto join = [&] { return maker.pick({" INNER", " LEFT", " RIGHT"}) + " JOIN "; };
+    int rows = 0;
+    for (int i = 0; i < 600; ++i) {
+        const std::string a = side("A");
+        const std::string b = side("B");
+        const std::string b2 = side("B");
+        const std::string c = side("C");
+        const std::string first = join();
+        const std::string second = join();
+        const std::string extra =
+            maker.pick({"", " AND A.n > 5", " AND B.n < 20", " AND B.x Is Null", " OR A.n = B.n"});
+        const int form = maker.below(5);
+        const auto statement = [&](const std::string& from, const std::string& sign, const std::string& to) {
+            const std::string ab = "(" + from + a + sign + b + to + ")";
+            const std::string bc = "(" + from + b2 + sign + c + to + ")";
+            const std::string list = "SELECT A.n AS p, B.n AS q, ";
+            switch (form) {
+            case 0:
+                return list + "C.n AS r FROM (A" + first + "B ON " + ab + ")" + second + "C ON " + bc +
+                       " WHERE A.n < 22" + extra + " ORDER BY 1, 2, 3";
+            case 1:
+                return list + "C.n AS r FROM A, B, C WHERE " + ab + " AND " + bc + extra + " ORDER BY 1, 2, 3";
+            case 2:
+                return list + "1 AS r FROM A" + first + "B ON " + ab + extra + " ORDER BY 1, 2, 3";
+            case 3:
+                return "SELECT DISTINCT A.x AS p, A.n AS q FROM A" + first + "B ON " + ab +
+                       " WHERE B.x Is Null ORDER BY 1, 2";
+            default:
+                return list + "C.n AS r FROM A" + first + "(B" + second + "C ON " + bc + ") ON " + ab +
+                       " ORDER BY 1, 2, 3";
+            }
+        };
+        const auto keyed = database.run(statement("", " = ", ""));
+        const auto paired = database.run(statement("Not (", " <> ", ")"));
+        rows += static_cast<int>(keyed.rows.size());
+        ASSERT_EQ(keyed.rows, paired.rows) << statement("", " = ", "") << "\n" << keyed.program.query;
+    }
+    EXPECT_GT(rows, 20000);
+}
