@@ -150,6 +150,8 @@ std::string Emitter::assigned(const Expression& expression, const Field& field) 
         return call("jet_to_double", plain);
     if (mayOverflow && field.type == FieldType::Date)
         return call("jet_to_date", plain);
+    if (mayOverflow && field.type == FieldType::Currency)
+        return call("jet_to_currency", plain);
     return convertedText(plain, type, field, shown.position);
 }
 
