@@ -59,7 +59,7 @@ private:
     /// "schema"."table" and the name of its row number; of editable rows.
     std::string tableName() const;
     std::string rowName() const;
-    /// The columns that the edit has set, as "name"<between> of each, joined by commas.
+    /// The columns that the edit has set, each as its quoted name with `behind` after it, joined by commas.
     std::string touchedColumns(std::string_view behind) const;
     /// Binds the values of those columns from parameter 1 on; the next free parameter.
     int bindTouched(sqlite::Statement& statement) const;
