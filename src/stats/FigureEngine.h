@@ -1,0 +1,12 @@
+#pragma once
+
+/// Where the statistics take their figures from.
+enum class FigureEngine {
+    Automatic,  ///< from a scan where the calls and the selection fit columns, by statements otherwise
+    Scan,       ///< from a scan; what does not fit is an error that is logged
+    Statements, ///< by statements
+};
+
+/// Of the runs that follow. Automatic until somebody sets it. Main thread.
+void setFigureEngine(FigureEngine engine);
+FigureEngine figureEngine();
