@@ -4,10 +4,11 @@
 #include "core/ModDeclarations.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <ctime>
 
-Date today() {
+Date presentTime() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
 #ifdef _WIN32
@@ -15,11 +16,16 @@ Date today() {
 #else
     localtime_r(&now, &local);
 #endif
-    DateParts parts;
-    parts.year = local.tm_year + 1900;
-    parts.month = local.tm_mon + 1;
-    parts.day = local.tm_mday;
-    return dateOf(parts);
+    return dateOf({.year = local.tm_year + 1900,
+                   .month = local.tm_mon + 1,
+                   .day = local.tm_mday,
+                   .hour = local.tm_hour,
+                   .minute = local.tm_min,
+                   .second = local.tm_sec});
+}
+
+Date today() {
+    return Date{std::floor(presentTime().days)};
 }
 
 std::string boundaryDateText(Date date) {

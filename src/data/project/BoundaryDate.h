@@ -8,7 +8,8 @@
 /// TblSettings.BoundaryDate, in the system map database and in every project: the date of the geography that the file
 /// holds. A project whose date is older than the system's takes the geography anew.
 
-/// The present date, without time, by the machine's clock.
+/// The present date and time, and the date without time, by the machine's clock.
+Date presentTime();
 Date today();
 /// The form in which the date is written: "dd/mmm/yyyy", for example "05/Jan/2025".
 std::string boundaryDateText(Date date);

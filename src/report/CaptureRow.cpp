@@ -1,0 +1,127 @@
+#include "report/CaptureRow.h"
+
+#include "core/LogAndGoOn.h"
+#include "core/ModDeclarations.h"
+#include "core/Prompts.h"
+#include "data/project/BoundaryDate.h"
+#include "data/project/Databases.h"
+#include "data/project/OpenProjectDatabase.h"
+#include "data/project/UpdateMappingGISTable.h"
+#include "data/schema/Vocabulary.h"
+#include "stats/ModData_CreateDataCaptureTable.h"
+
+#include <string_view>
+
+namespace {
+
+constexpr std::string_view everything = "SELECT * FROM TblDataCapture";
+
+/// Position of the last `count` characters of a UTF-8 text.
+std::size_t startOfLast(std::string_view text, std::size_t count) {
+    std::size_t at = text.size();
+    while (at > 0 && count > 0) {
+        --at;
+        if ((static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U)
+            --count;
+    }
+    return at;
+}
+
+std::string withoutOuterBlanks(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+bool has(Database& database) {
+    database.tableDefs().refresh();
+    return database.tableDefs().find("TblDataCapture") != nullptr;
+}
+
+void stampSystem() {
+    if (!has(systemDatabase()))
+        ModData_CreateDataCaptureTable();
+    const auto row = systemDatabase().openRecordset(everything);
+    if (row->EOF_())
+        row->AddNew();
+    else
+        row->Edit();
+    row->set("ProjectName", capturedProjectName());
+    row->set("Captured", presentTime());
+    for (const char* remembered : {"BoundaryType1", "ProjectMultiMap", "ProjectAnimate"})
+        row->set(remembered, Value());
+    row->Update();
+}
+
+void CreateDataCaptureTable() {
+    createVocabularyTable(projectDatabase(), DatabaseKind::Project, "TblDataCapture");
+    projectDatabase().close();
+    if (!OpenProjectDatabase(gsProjectPath)) {
+        showMessage("Unable to open Project Database");
+        return;
+    }
+    if (ModUtilities_UpdateMappingGISTable(projectDatabase()) != 0)
+        showMessage("An error occurred updating the Exchange GIS data");
+}
+
+bool isSet(const Value& captured) {
+    return !captured.isNull() && captured.asDouble() != 0;
+}
+
+} // namespace
+
+std::string capturedProjectName() {
+    constexpr std::size_t width = 250; // of the column
+    return withoutOuterBlanks(std::string_view(gsProjectPath).substr(startOfLast(gsProjectPath, width)));
+}
+
+void onCaptureRow(const std::function<void(Recordset& row)>& use) {
+    logAndGoOn([&] {
+        const auto row = systemDatabase().openRecordset(everything);
+        if (!row->EOF_())
+            use(*row);
+    });
+}
+
+bool isCaptured() {
+    const auto project = projectDatabase().openRecordset(everything);
+    const auto system = systemDatabase().openRecordset(everything);
+    if (project->EOF_() || system->EOF_() || system->value("ProjectName").asText() != capturedProjectName())
+        return false;
+    const Value& captured = system->value("Captured");
+    return isSet(captured) && isSet(project->value("Captured")) &&
+           project->value("Captured").asDouble() == captured.asDouble();
+}
+
+void recordCapture() {
+    stampSystem();
+    reopenProject();
+    if (!has(projectDatabase()))
+        CreateDataCaptureTable();
+    projectDatabase().execute("DELETE * FROM TblDataCapture");
+    projectDatabase().execute("INSERT INTO [" + gsProjectPath +
+                              "].[TblDataCapture] (ProjectName, Captured) SELECT ProjectName, Captured FROM [" +
+                              gsSystemDBPath + "].[TblDataCapture]");
+}
+
+std::optional<MultiMapSettings> capturedMultiMapSettings() {
+    std::optional<MultiMapSettings> settings;
+    onCaptureRow([&](Recordset& row) {
+        if (row.value("ProjectMultiMap").isNull() || row.value("ProjectMultiMap").asText() != capturedProjectName())
+            return;
+        MultiMapSettings stored;
+        stored.boundaryType = row.value("BoundaryType2").asText();
+        const Value& maps = row.value("MultiMaps");
+        const long count = maps.isNull() ? 0 : maps.asLong();
+        stored.ranges.OptPeriods = count == 6 ? 2 : count == 4 ? 1 : 0;
+        constexpr const char* columns[] = {"StartDate", "StartTime", "EndDate", "EndTime"};
+        for (std::size_t picker = 0; picker < stored.ranges.DTPicker1.size(); ++picker) {
+            const std::string slot = std::to_string(picker / 4 + 2);
+            if (const Value& value = row.value(columns[picker % 4] + slot); !value.isNull())
+                stored.ranges.DTPicker1[picker] = value.asDate();
+        }
+        settings = stored;
+    });
+    return settings;
+}
