@@ -17,7 +17,7 @@ uctFooter::uctFooter(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-void uctFooter::RegisterButton(QPushButton* button) {
+void uctFooter::RegisterButton(QAbstractButton* button) {
     buttons_->addWidget(button);
 }
 

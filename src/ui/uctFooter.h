@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class QAbstractButton;
 class QPushButton;
 
 /// The band at the foot of a window: registered buttons at the left, the exit button at the right.
@@ -13,7 +14,7 @@ public:
     explicit uctFooter(QWidget* parent = nullptr);
 
     /// Takes a button into the panel, behind those already there.
-    void RegisterButton(QPushButton* button);
+    void RegisterButton(QAbstractButton* button);
     /// Enables or disables all registered buttons; the exit button stays as it is.
     void EnableButtons(bool enabled);
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QColor>
+
+/// How much two colours differ in brightness for the eye, from 1 (alike) to 21 (black on white), by the rule of the
+/// web's accessibility guidelines. Text is readable from leastTextContrast on.
+double contrastRatio(const QColor& a, const QColor& b);
+
+inline constexpr double leastTextContrast = 4.5;
+
+/// White or the skin's darkest grey, whichever is easier to read on `back`.
+QColor readableOn(const QColor& back);
