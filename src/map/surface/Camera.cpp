@@ -47,3 +47,15 @@ void Camera::showAll(const QRectF& mapBounds) {
     if (width > 0.0)
         setScale(width);
 }
+
+void Camera::zoomAbout(QPointF screenPoint, double factor) {
+    if (!std::isfinite(factor) || factor <= 0.0)
+        return;
+    const QPointF kept = screenToMap(screenPoint);
+    setScale(scale_ / factor);
+    setCenter(center_ + kept - screenToMap(screenPoint));
+}
+
+void Camera::moveBy(QPointF pixels) {
+    setCenter(center_ + QPointF(pixels.x(), -pixels.y()) * unitsPerPixel());
+}

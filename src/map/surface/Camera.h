@@ -31,6 +31,11 @@ public:
     /// scale.
     void showAll(const QRectF& mapBounds);
 
+    /// Divides the scale by `factor`; the point of the map under `screenPoint` stays where it is.
+    void zoomAbout(QPointF screenPoint, double factor);
+    /// Moves the view so that what lies `pixels` to the right and below comes to where it was.
+    void moveBy(QPointF pixels);
+
     friend bool operator==(const Camera&, const Camera&) = default;
 
 private:

@@ -1,17 +1,16 @@
 #include "map/surface/MapPainter.h"
 
 #include "map/surface/LabelPainter.h"
+#include "map/surface/PictureTiles.h"
 
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace {
 
-/// Device pixels. A pen wider than one leaves the painter's quick way and makes a map of fine screens take a second and
-/// more.
-constexpr double OutlineWidth = 1.0;
 // Interface pixels.
 constexpr double PointRadius = 2.5;
 constexpr double LabelGap = 2.0;
@@ -19,6 +18,8 @@ constexpr double LabelGap = 2.0;
 /// town of small areas would be nothing but outlines.
 constexpr double FullOutlineSize = 28.0;
 constexpr double FaintestOutline = 0.08;
+/// Device pixels that an outline may reach beyond its polygon, snapping included.
+constexpr double OutlineReach = 2.0;
 
 constexpr const char* NoSymbol = "No Symbol";
 
@@ -27,11 +28,10 @@ QColor mixed(const QColor& a, const QColor& b, double shareOfB) {
     return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
 }
 
-QPen outlinePen(const Symbol& symbol, const QColor& fill, double pixelSize, const MapStyle& style) {
-    const double share = std::clamp(pixelSize / (FullOutlineSize * style.devicePixelRatio), FaintestOutline, 1.0);
-    QPen pen(mixed(fill, colourOf(symbol.SymbolPolygonBorderColor), share), OutlineWidth);
-    pen.setCosmetic(true);
-    return pen;
+QColor outlineColour(const Symbol& symbol, const QColor& fill, const QSizeF& pixels, const MapStyle& style) {
+    const double side = std::sqrt(pixels.width() * pixels.height());
+    const double share = std::clamp(side / (FullOutlineSize * style.devicePixelRatio), FaintestOutline, 1.0);
+    return mixed(fill, colourOf(symbol.SymbolPolygonBorderColor), share);
 }
 
 void paintPoints(QPainter& painter, const Layer& layer, const LayerContent& content, const Camera& camera,
@@ -47,41 +47,106 @@ void paintPoints(QPainter& painter, const Layer& layer, const LayerContent& cont
     }
 }
 
+/// The polygons of a layer that can be seen in a part of the view, as positions in content.shapes.
+std::vector<std::size_t> seenIn(const LayerContent& content, const QRectF& mapArea) {
+    std::vector<std::size_t> seen;
+    seen.reserve(content.shapes.size());
+    for (std::size_t i = 0; i < content.shapes.size(); ++i) {
+        if (content.table->shapes()[content.shapes[i].shape].bounds.intersects(mapArea))
+            seen.push_back(i);
+    }
+    return seen;
+}
+
+/// Copies what both pictures show; the new one shows the old one's pixels moved by `shift`.
+void copyMoved(const QImage& from, QImage& to, const QPoint& shift) {
+    const QRect common = to.rect().intersected(from.rect().translated(shift));
+    const auto bytes = [](int pixels) { return static_cast<std::size_t>(pixels) * sizeof(QRgb); };
+    for (int y = common.top(); y <= common.bottom(); ++y) {
+        std::memcpy(to.scanLine(y) + bytes(common.left()),
+                    from.constScanLine(y - shift.y()) + bytes(common.left() - shift.x()), bytes(common.width()));
+    }
+}
+
 } // namespace
 
-QImage MapPainter::paint(const Scene& scene, const std::vector<LayerContent>& contents, const Camera& camera,
-                         const MapStyle& style) {
-    QImage picture(camera.pixelSize(), QImage::Format_RGB32);
+QImage MapPainter::paint(const DrawnMap& map, const MapStyle& style) {
+    frame_ = PixelFrame(map.camera);
+    paths_.begin(frame_);
+    QImage picture(frame_.size, QImage::Format_RGB32);
     picture.fill(style.sea);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    LabelPlacement placement(QRectF(QPointF(0, 0), QSizeF(camera.pixelSize())), LabelGap * style.devicePixelRatio);
-    for (std::size_t i = 0; i < scene.layers.size() && i < contents.size(); ++i) {
-        const Layer& layer = scene.layers[i];
-        if (!contents[i].table || !isDrawnAt(layer, camera.scale()))
+    LabelPlacement placement(QRectF(QPointF(0, 0), QSizeF(frame_.size)), LabelGap * style.devicePixelRatio);
+    for (std::size_t i = 0; i < map.contents.size(); ++i) {
+        const LayerContent* content = map.inPicture(i);
+        if (content == nullptr)
             continue;
-        if (layer.LayerInterpretation == CoverageKind::Polygons)
-            paintPolygons(painter, layer, contents[i], camera, style);
-        else
-            paintPoints(painter, layer, contents[i], camera, style);
-        paintLabels(painter, layer, contents[i], camera, style, placement);
+        const Layer& layer = map.scene.layers[i];
+        paintShapes(picture, picture.rect(), layer, *content, map.camera, style);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintLabels(painter, layer, *content, map.camera, style, placement);
     }
     return picture;
 }
 
-void MapPainter::paintPolygons(QPainter& painter, const Layer& layer, const LayerContent& content, const Camera& camera,
-                               const MapStyle& style) {
-    const std::vector<QPainterPath>& paths = paths_.of(content.table, camera);
-    for (const DrawnShape& drawn : content.shapes) {
-        const QPainterPath& path = paths[drawn.shape];
-        if (path.isEmpty())
+QImage MapPainter::paintMoved(const QImage& picture, const Camera& from, const DrawnMap& map, const MapStyle& style) {
+    const PixelFrame before(from);
+    frame_ = PixelFrame(map.camera);
+    const QPointF moved = before.origin - frame_.origin;
+    if (picture.size() != frame_.size || before.pixelsPerUnit != frame_.pixelsPerUnit ||
+        std::abs(moved.x()) >= frame_.size.width() || std::abs(moved.y()) >= frame_.size.height())
+        return paint(map, style);
+    paths_.begin(frame_);
+    const QPoint shift = moved.toPoint();
+    QImage result(frame_.size, QImage::Format_RGB32);
+    copyMoved(picture, result, shift);
+    for (const QRect& strip : QRegion(result.rect()).subtracted(result.rect().translated(shift))) {
+        partOf(result, strip).fill(style.sea);
+        for (std::size_t i = 0; i < map.contents.size(); ++i) {
+            if (const LayerContent* content = map.inPicture(i))
+                paintShapes(result, strip, map.scene.layers[i], *content, map.camera, style);
+        }
+    }
+    return result;
+}
+
+void MapPainter::paintShapes(QImage& picture, const QRect& area, const Layer& layer, const LayerContent& content,
+                             const Camera& camera, const MapStyle& style) {
+    if (layer.LayerInterpretation == CoverageKind::Polygons) {
+        paintFills(picture, area, fillsOf(layer, content, area, style), paths_.offset());
+        return;
+    }
+    QImage part = partOf(picture, area);
+    QPainter painter(&part);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-area.topLeft());
+    paintPoints(painter, layer, content, camera, style);
+}
+
+std::vector<PathFill> MapPainter::fillsOf(const Layer& layer, const LayerContent& content, const QRectF& area,
+                                          const MapStyle& style) {
+    const QRectF reached = area.adjusted(-OutlineReach, -OutlineReach, OutlineReach, OutlineReach);
+    const std::vector<std::size_t> seen = seenIn(content, frame_.mapRect(reached));
+    std::vector<std::size_t> shapes;
+    shapes.reserve(seen.size());
+    for (std::size_t i : seen)
+        shapes.push_back(content.shapes[i].shape);
+    paths_.prepare(content.table, shapes);
+
+    std::vector<PathFill> fills;
+    fills.reserve(seen.size());
+    for (std::size_t i : seen) {
+        const DrawnShape& drawn = content.shapes[i];
+        PathFill fill;
+        fill.path = &paths_.path(*content.table, drawn.shape);
+        if (fill.path->isEmpty())
             continue;
         const Symbol& symbol = layer.symbols[drawn.symbol];
-        const QColor fill = symbol.SymbolFilled ? colourOf(symbol.SymbolPolygonColor) : style.land;
-        const QRectF& bounds = content.table->shapes()[drawn.shape].bounds;
-        const double pixelSize = std::sqrt(bounds.width() * bounds.height()) / camera.unitsPerPixel();
-        painter.setBrush(fill);
-        painter.setPen(outlinePen(symbol, fill, pixelSize, style));
-        painter.drawPath(path);
+        const QRectF box = frame_.viewRect(content.table->shapes()[drawn.shape].bounds);
+        fill.box = box.adjusted(-OutlineReach, -OutlineReach, OutlineReach, OutlineReach);
+        fill.fill = symbol.SymbolFilled ? colourOf(symbol.SymbolPolygonColor) : style.land;
+        fill.outline = outlineColour(symbol, fill.fill, box.size(), style);
+        fills.push_back(fill);
     }
+    return fills;
 }

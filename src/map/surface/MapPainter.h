@@ -2,25 +2,31 @@
 
 #include "map/surface/LayerContent.h"
 #include "map/surface/MapStyle.h"
-#include "map/surface/Scene.h"
 #include "map/surface/ScreenPaths.h"
 
 #include <QImage>
 
 #include <vector>
 
-class QPainter;
+struct PathFill;
 
-/// Draws layers through a camera into a picture. Needs no widget; needs a QGuiApplication for the fonts. Main thread.
+/// Draws a map into a picture. Needs no widget; needs a QGuiApplication for the fonts. The same map gives the same
+/// picture, whatever was drawn before. Main thread; the areas are filled on two.
 class MapPainter {
 public:
-    /// A picture of the camera's pixel size. `contents` stands beside `scene.layers`.
-    QImage paint(const Scene& scene, const std::vector<LayerContent>& contents, const Camera& camera,
-                 const MapStyle& style);
+    /// A picture of the camera's pixel size.
+    QImage paint(const DrawnMap& map, const MapStyle& style);
+
+    /// The same map where only the view has moved, its scale unchanged: what `picture`, drawn for `from`, shows already
+    /// is taken over and only what has come into view is drawn. Labels move along; new ones wait for paint().
+    QImage paintMoved(const QImage& picture, const Camera& from, const DrawnMap& map, const MapStyle& style);
 
 private:
-    void paintPolygons(QPainter& painter, const Layer& layer, const LayerContent& content, const Camera& camera,
-                       const MapStyle& style);
+    std::vector<PathFill> fillsOf(const Layer& layer, const LayerContent& content, const QRectF& area,
+                                  const MapStyle& style);
+    void paintShapes(QImage& picture, const QRect& area, const Layer& layer, const LayerContent& content,
+                     const Camera& camera, const MapStyle& style);
 
+    PixelFrame frame_{Camera()};
     ScreenPaths paths_;
 };

@@ -5,9 +5,11 @@
 #include "map/surface/LayerRows.h"
 #include "map/surface/LayerSource.h"
 #include "map/surface/SceneFile.h"
+#include "map/surface/SymbolChoice.h"
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -21,19 +23,10 @@ std::size_t checkedIndex(int index, std::size_t count, const char* property) {
     return static_cast<std::size_t>(index);
 }
 
-QRectF boundsOf(const LayerContent& content) {
-    QRectF bounds;
-    bool first = true;
-    for (const DrawnShape& drawn : content.shapes) {
-        const QRectF& shape = content.table->shapes()[drawn.shape].bounds;
-        // QRectF::united leaves out boxes without extent, as points have.
-        bounds =
-            first ? shape
-                  : QRectF(QPointF(std::min(bounds.left(), shape.left()), std::min(bounds.top(), shape.top())),
-                           QPointF(std::max(bounds.right(), shape.right()), std::max(bounds.bottom(), shape.bottom())));
-        first = false;
-    }
-    return bounds;
+/// QRectF::united leaves out boxes without extent, as points have.
+QRectF unionOf(const QRectF& a, const QRectF& b) {
+    return {QPointF(std::min(a.left(), b.left()), std::min(a.top(), b.top())),
+            QPointF(std::max(a.right(), b.right()), std::max(a.bottom(), b.bottom()))};
 }
 
 } // namespace
@@ -100,12 +93,74 @@ std::shared_ptr<Recordset> MapSurface::LayerRecordset() {
     return LayerSource::parse(plain.LayerDataSource).open()->openRecordset(LayerQuery::of(plain).sql);
 }
 
-void MapSurface::ZoomToExtent() {
-    const LayerContent content = contentOf(layerIndex_);
-    release(layerIndex_);
+/// Throws RuntimeError 5 where the layer has no shapes.
+QRectF MapSurface::extentOf(std::size_t index) {
+    const LayerContent content = contentOf(index);
+    release(index);
     if (content.shapes.empty())
-        throw RuntimeError(InvalidProcedureCall, "The layer \"" + layer().LayerName + "\" has no shapes to show");
-    camera_.showAll(boundsOf(content));
+        throw RuntimeError(InvalidProcedureCall,
+                           "The layer \"" + scene_.layers[index].LayerName + "\" has no shapes to show");
+    const std::vector<MapShape>& shapes = content.table->shapes();
+    QRectF bounds = shapes[content.shapes.front().shape].bounds;
+    for (const DrawnShape& drawn : content.shapes)
+        bounds = unionOf(bounds, shapes[drawn.shape].bounds);
+    return bounds;
+}
+
+void MapSurface::ZoomToExtent() {
+    showWhole(extentOf(layerIndex_));
+}
+
+void MapSurface::ZoomToWholeMap() {
+    std::optional<QRectF> bounds;
+    for (std::size_t i = 0; i < scene_.layers.size(); ++i) {
+        if (!scene_.layers[i].LayerVisible)
+            continue;
+        try {
+            const QRectF extent = extentOf(i);
+            bounds = bounds ? unionOf(*bounds, extent) : extent;
+        } catch (const RuntimeError&) {
+            // The layer shows nothing; a draw says why where it cannot be read.
+        }
+    }
+    if (bounds)
+        showWhole(*bounds);
+}
+
+void MapSurface::showWhole(const QRectF& bounds) {
+    camera_.showAll(bounds);
+    whole_ = bounds;
+    wholeCamera_ = camera_;
+}
+
+void MapSurface::setCamera(const Camera& camera) {
+    camera_.setCenter(camera.center());
+    camera_.setScale(camera.scale());
+}
+
+void MapSurface::setPixelSize(QSize devicePixels) {
+    const bool showsWhole = whole_ && camera_ == wholeCamera_;
+    camera_.setPixelSize(devicePixels);
+    if (showsWhole)
+        showWhole(*whole_);
+}
+
+void MapSurface::setUIMode(MapTool tool) {
+    tool_ = tool;
+    if (ToolsChanged)
+        ToolsChanged();
+}
+
+void MapSurface::setToolBarSetup(const std::string& text) {
+    toolBar_ = ::ToolBarSetup::parse(text);
+    if (ToolsChanged)
+        ToolsChanged();
+}
+
+void MapSurface::setShowToolBar(bool show) {
+    showToolBar_ = show;
+    if (ToolsChanged)
+        ToolsChanged();
 }
 
 void MapSurface::SaveMapFile(const std::string& path) const {
@@ -137,11 +192,25 @@ void MapSurface::DrawMap() {
     }
     for (std::size_t i = 0; i < sources_.size(); ++i)
         release(i);
-    picture_ = painter_.paint(scene_, contents, camera_, style);
+    drawn_ = {scene_, std::move(contents), camera_};
+    picture_ = painter_.paint(drawn_, style);
     if (DrawMapFinished)
         DrawMapFinished();
     if (failure)
         std::rethrow_exception(failure);
+}
+
+void MapSurface::Refresh() const {
+    if (Repaint)
+        Repaint();
+}
+
+void MapSurface::PanBy(QPoint pixels) {
+    camera_.moveBy(pixels);
+    if (picture_.isNull())
+        return;
+    const Camera before = std::exchange(drawn_.camera, camera_);
+    picture_ = painter_.paintMoved(picture_, before, drawn_, style);
 }
 
 LayerContent MapSurface::contentOf(std::size_t index) {
@@ -153,9 +222,10 @@ LayerContent MapSurface::contentOf(std::size_t index) {
         const Source& source = read(index);
         content.table = source.shapes;
         content.shapes.reserve(source.rows.size());
+        const SymbolChoice symbols(layer);
         for (const LayerRow& row : source.rows) {
             for (std::size_t shape : content.table->find(row.id))
-                content.shapes.push_back({shape, symbolOf(layer, row.value), row.label});
+                content.shapes.push_back({shape, symbols.of(row.value), row.label, row.value});
         }
     } catch (const RuntimeError& error) {
         throw RuntimeError(error.number(), "Layer \"" + layer.LayerName + "\": " + error.description());

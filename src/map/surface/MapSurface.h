@@ -1,20 +1,21 @@
 #pragma once
 
 #include "map/surface/GeometryCache.h"
+#include "map/surface/HitTest.h"
 #include "map/surface/MapPainter.h"
+#include "map/surface/MapTool.h"
+#include "map/surface/ToolBarSetup.h"
 
 #include <QImage>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 class Database;
 class Recordset;
-
-/// The mouse tools.
-enum class MapTool : long { Pan = 0, ZoomIn = 2, ZoomOut = 3, Information = 4, PolygonQuery = 7, ZoomToExtent = 8 };
 
 /// A map without a window: a stack of layers, a view, and the picture that the last draw left. Logic describes the
 /// layers and asks for a draw; it never draws a polygon itself.
@@ -32,6 +33,8 @@ public:
 
     std::function<void()> DrawMapStarted;
     std::function<void()> DrawMapFinished;
+    std::function<void()> ToolsChanged; ///< the tool in hand or the tool bar was set
+    std::function<void()> Repaint;      ///< what Refresh asks of the window that shows the picture
 
     int NumberOfLayers() const { return static_cast<int>(scene_.layers.size()); }
     int NumberOfSymbols() const { return static_cast<int>(scene_.layers[layerIndex_].symbols.size()); }
@@ -64,12 +67,22 @@ public:
     void CentreMapOn(double x, double y) { camera_.setCenter({x, y}); }
     /// Shows the whole of the current layer. Throws RuntimeError 5 where it has no shapes.
     void ZoomToExtent();
+    /// Shows the whole of all layers that are not hidden; leaves the view where there is nothing to show.
+    void ZoomToWholeMap();
     const Camera& camera() const { return camera_; }
-    void setPixelSize(QSize devicePixels) { camera_.setPixelSize(devicePixels); }
+    void setCamera(const Camera& camera); ///< all but its pixel size
+    /// Keeps centre and scale; but a view that ZoomToExtent has set shows the same whole again.
+    void setPixelSize(QSize devicePixels);
 
-    MapTool UIMode = MapTool::Information;
+    MapTool UIMode() const { return tool_; }
+    void setUIMode(MapTool tool); ///< takes the tool in hand; does not act by itself
+    /// The tool bar string; throws RuntimeError 380 where it cannot be read, and changes nothing.
+    std::string ToolBarSetup() const { return toolBar_.text(); }
+    void setToolBarSetup(const std::string& text);
+    const ::ToolBarSetup& toolBar() const { return toolBar_; }
+    bool ShowToolBar() const { return showToolBar_; }
+    void setShowToolBar(bool show);
     bool KeepDataSourcesOpen = false; ///< false: no file stays open between draws
-    std::string ToolBarSetup;
     MapStyle style;
 
     /// Writes the layers to a file, or replaces them by those of a file; throws RuntimeError as saveScene and loadScene
@@ -82,6 +95,13 @@ public:
     void DrawMap();
     /// What the last draw left, for a repaint; null before the first.
     const QImage& picture() const { return picture_; }
+    /// What that picture shows, view and all.
+    const DrawnMap& drawn() const { return drawn_; }
+    /// Repaints what has been drawn.
+    void Refresh() const;
+    /// Moves the view by device pixels and takes the picture along, between two draws: only what comes into view is
+    /// drawn. Tells no events.
+    void PanBy(QPoint pixels);
 
     const GeometryCache& geometry() const { return geometry_; }
 
@@ -89,6 +109,8 @@ private:
     struct Source; // a layer's open file and the rows read from it
 
     LayerContent contentOf(std::size_t index);
+    QRectF extentOf(std::size_t index);
+    void showWhole(const QRectF& bounds);
     const Source& read(std::size_t index);
     void release(std::size_t index); ///< closes its file, unless KeepDataSourcesOpen
 
@@ -97,7 +119,13 @@ private:
     std::size_t layerIndex_ = 0;
     std::size_t symbolIndex_ = 0;
     Camera camera_;
+    std::optional<QRectF> whole_; // what the camera shows the whole of, in map units
+    Camera wholeCamera_;          // that does so
+    MapTool tool_ = MapTool::Information;
+    ::ToolBarSetup toolBar_;
+    bool showToolBar_ = true;
     GeometryCache geometry_;
     MapPainter painter_;
+    DrawnMap drawn_;
     QImage picture_;
 };

@@ -76,6 +76,3 @@ struct Scene {
 
 /// Whether a layer is to be drawn when the view is `mapScale` map units wide.
 bool isDrawnAt(const Layer& layer, double mapScale);
-
-/// The symbol that `value` selects; the first one where it is null or selects none.
-std::size_t symbolOf(const Layer& layer, const Value& value);

@@ -1,12 +1,16 @@
 #include "map/surface/ScreenPaths.h"
 
+#include "map/surface/InParallel.h"
+
 #include <QPolygonF>
 
 #include <cmath>
 
 namespace {
 
-/// Pixels outside the view that are still kept: an outline along the clipping box stays out of sight.
+/// How far the view may move before the paths are made anew, and how far outside of it polygons are kept: enough for a
+/// drag across the screen. The margin keeps an outline along the clipping box out of sight.
+constexpr double Reach = 2048.0;
 constexpr double ClipMargin = 16.0;
 constexpr int FewestCorners = 3;
 
@@ -33,26 +37,41 @@ ShapePoint atY(const ShapePoint& a, const ShapePoint& b, double y) {
     return {a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y), y};
 }
 
-/// The part of the map that is drawn: what is seen and a margin round it.
-QRectF drawnMap(const Camera& camera) {
-    const double margin = ClipMargin * camera.unitsPerPixel();
-    return camera.visibleMap().adjusted(-margin, -margin, margin, margin);
-}
-
 double snapped(double pixel) {
     return std::round(pixel * 2.0) / 2.0;
 }
 
-QPolygonF screenRing(const ShapeRing& ring, const Camera& camera) {
+/// A ring as pixels counted from `base`.
+QPolygonF pixelRing(const ShapeRing& ring, double pixelsPerUnit, const QPointF& base) {
     QPolygonF pixels;
     pixels.reserve(static_cast<qsizetype>(ring.size()));
     for (const ShapePoint& point : ring) {
-        const QPointF exact = camera.mapToScreen({point.x, point.y});
-        const QPointF pixel(snapped(exact.x()), snapped(exact.y()));
+        const QPointF pixel(snapped(point.x * pixelsPerUnit) - base.x(), snapped(-point.y * pixelsPerUnit) - base.y());
         if (pixels.isEmpty() || pixels.last() != pixel)
             pixels.append(pixel);
     }
     return pixels;
+}
+
+/// Cut to a box of the map.
+QPainterPath pixelPath(const MapShape& polygon, double pixelsPerUnit, const QPointF& base, const QRectF& box) {
+    QPainterPath path;
+    path.setFillRule(Qt::OddEvenFill);
+    if (!box.intersects(polygon.bounds))
+        return path;
+    const bool whole = box.contains(polygon.bounds);
+    for (const ShapeRing& ring : polygon.shape.rings) {
+        const QPolygonF pixels = pixelRing(whole ? ring : clipRing(ring, box), pixelsPerUnit, base);
+        if (pixels.size() < FewestCorners)
+            continue;
+        path.addPolygon(pixels);
+        path.closeSubpath();
+    }
+    return path;
+}
+
+QRectF widened(const QRectF& rectangle, double by) {
+    return rectangle.adjusted(-by, -by, by, by);
 }
 
 } // namespace
@@ -74,33 +93,65 @@ ShapeRing clipRing(const ShapeRing& ring, const QRectF& box) {
     return part;
 }
 
-QPainterPath screenPath(const MapShape& polygon, const Camera& camera) {
-    QPainterPath path;
-    path.setFillRule(Qt::OddEvenFill);
-    const QRectF drawn = drawnMap(camera);
-    if (!drawn.intersects(polygon.bounds))
-        return path;
-    const bool whole = drawn.contains(polygon.bounds);
-    for (const ShapeRing& ring : polygon.shape.rings) {
-        const QPolygonF pixels = screenRing(whole ? ring : clipRing(ring, drawn), camera);
-        if (pixels.size() < FewestCorners)
-            continue;
-        path.addPolygon(pixels);
-        path.closeSubpath();
-    }
-    return path;
+PixelFrame::PixelFrame(const Camera& camera)
+    : pixelsPerUnit(1.0 / camera.unitsPerPixel()),
+      origin(std::round(camera.center().x() * pixelsPerUnit - camera.pixelSize().width() / 2.0),
+             std::round(-camera.center().y() * pixelsPerUnit - camera.pixelSize().height() / 2.0)),
+      size(camera.pixelSize()) {}
+
+QRectF PixelFrame::mapRect(const QRectF& viewPixels) const {
+    const QPointF topLeft = (viewPixels.topLeft() + origin) / pixelsPerUnit;
+    const QSizeF extent = viewPixels.size() / pixelsPerUnit;
+    return {topLeft.x(), -topLeft.y() - extent.height(), extent.width(), extent.height()};
 }
 
-const std::vector<QPainterPath>& ScreenPaths::of(const std::shared_ptr<const ShapeTable>& table, const Camera& camera) {
-    if (camera != camera_) {
-        paths_.clear();
-        camera_ = camera;
+QRectF PixelFrame::viewRect(const QRectF& mapBox) const {
+    const QPointF topLeft(mapBox.left() * pixelsPerUnit, -mapBox.bottom() * pixelsPerUnit);
+    return {topLeft - origin, mapBox.size() * pixelsPerUnit};
+}
+
+void ScreenPaths::begin(const PixelFrame& frame) {
+    const QPointF moved = frame.origin - base_;
+    if (frame.pixelsPerUnit != frame_.pixelsPerUnit || frame.size != frame_.size || std::abs(moved.x()) > Reach ||
+        std::abs(moved.y()) > Reach) {
+        tables_.clear();
+        base_ = frame.origin;
     }
-    const auto [entry, isNew] = paths_.try_emplace(table);
-    if (isNew) {
-        entry->second.reserve(table->shapes().size());
-        for (const MapShape& shape : table->shapes())
-            entry->second.push_back(screenPath(shape, camera));
+    frame_ = frame;
+}
+
+void ScreenPaths::prepare(const std::shared_ptr<const ShapeTable>& table, const std::vector<std::size_t>& shapes) {
+    Table& kept = tables_[table.get()];
+    if (!kept.shapes) {
+        kept.shapes = table;
+        kept.paths.resize(table->shapes().size());
+        kept.made.resize(table->shapes().size());
     }
-    return entry->second;
+    std::vector<std::size_t> missing;
+    for (std::size_t shape : shapes) {
+        if (!kept.made[shape]) {
+            kept.made[shape] = true;
+            missing.push_back(shape);
+        }
+    }
+    const auto makeEverySecond = [&](std::size_t first) {
+        for (std::size_t i = first; i < missing.size(); i += 2)
+            kept.paths[missing[i]] = make(table->shapes()[missing[i]]);
+    };
+    inParallel([&] { makeEverySecond(0); }, [&] { makeEverySecond(1); });
+}
+
+const QPainterPath& ScreenPaths::path(const ShapeTable& table, std::size_t shape) const {
+    return tables_.at(&table).paths[shape];
+}
+
+QPainterPath ScreenPaths::make(const MapShape& polygon) const {
+    const QRectF reach = widened(QRectF(base_ - frame_.origin, QSizeF(frame_.size)), Reach + ClipMargin);
+    return pixelPath(polygon, frame_.pixelsPerUnit, base_, frame_.mapRect(reach));
+}
+
+QPainterPath screenPath(const MapShape& polygon, const Camera& camera) {
+    const PixelFrame frame(camera);
+    const QRectF drawn = widened(QRectF(QPointF(0, 0), QSizeF(frame.size)), ClipMargin);
+    return pixelPath(polygon, frame.pixelsPerUnit, frame.origin, frame.mapRect(drawn));
 }

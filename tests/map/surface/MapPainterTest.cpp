@@ -38,20 +38,26 @@ constexpr MapColourCode Green = 0x00FF00;
 
 /// A picture of one layer of polygons, all drawn with its first symbol.
 struct LayerFixture {
-    Scene scene;
-    std::vector<LayerContent> contents;
+    DrawnMap map;
 
     void add(std::vector<MapShape> shapes, const Symbol& symbol) {
-        if (!contents.empty())
-            scene.layers.emplace_back();
-        scene.layers.back().symbols = {symbol};
+        if (!map.contents.empty())
+            map.scene.layers.emplace_back();
+        map.scene.layers.back().symbols = {symbol};
         LayerContent content;
         for (std::size_t i = 0; i < shapes.size(); ++i)
             content.shapes.push_back({i, 0, ""});
         content.table = std::make_shared<const ShapeTable>(std::move(shapes));
-        contents.push_back(std::move(content));
+        map.contents.push_back(std::move(content));
     }
-    QImage paint(const Camera& camera) { return MapPainter().paint(scene, contents, camera, MapStyle()); }
+    QImage paint(const Camera& camera) {
+        MapPainter painter;
+        return paint(camera, painter);
+    }
+    QImage paint(const Camera& camera, MapPainter& painter) {
+        map.camera = camera;
+        return painter.paint(map, MapStyle());
+    }
     /// The colour at a point of the map as squareCamera() shows it.
     QColor at(double x, double y) {
         return paint(squareCamera()).pixelColor(static_cast<int>(x), 99 - static_cast<int>(y));
@@ -131,23 +137,23 @@ TEST(MapPainter, RecolouringUsesTheNewColours) {
     LayerFixture map;
     map.add({polygon(1, {square(10, 10, 50)})}, fill(Red));
     MapPainter painter;
-    painter.paint(map.scene, map.contents, squareCamera(), MapStyle());
-    map.scene.layers[0].symbols[0] = fill(Green);
-    const QImage second = painter.paint(map.scene, map.contents, squareCamera(), MapStyle());
+    map.paint(squareCamera(), painter);
+    map.map.scene.layers[0].symbols[0] = fill(Green);
+    const QImage second = map.paint(squareCamera(), painter);
     EXPECT_EQ(second.pixelColor(30, 70), QColor(0, 255, 0));
     Camera moved = squareCamera();
     moved.setCenter({80, 50});
-    EXPECT_EQ(painter.paint(map.scene, map.contents, moved, MapStyle()).pixelColor(60, 70), Sea);
+    EXPECT_EQ(map.paint(moved, painter).pixelColor(60, 70), Sea);
 }
 
 TEST(MapPainter, LayersOutsideTheirZoomOrHiddenAreNotDrawn) {
     LayerFixture map;
     map.add({polygon(1, {square(10, 10, 50)})}, fill(Red));
-    map.scene.layers[0].LayerToZoomTrigger = 99;
+    map.map.scene.layers[0].LayerToZoomTrigger = 99;
     EXPECT_EQ(map.at(30, 30), Sea);
-    map.scene.layers[0].LayerToZoomTrigger = 100;
+    map.map.scene.layers[0].LayerToZoomTrigger = 100;
     EXPECT_EQ(map.at(30, 30), QColor(Qt::red));
-    map.scene.layers[0].LayerVisible = false;
+    map.map.scene.layers[0].LayerVisible = false;
     EXPECT_EQ(map.at(30, 30), Sea);
 }
 
@@ -157,7 +163,7 @@ TEST(MapPainter, LabelsAreDarkOnALightRim) {
     symbol.SymbolEnableLabels = true;
     symbol.SymbolLabelFont = {"DejaVu Sans", 20};
     map.add({polygon(1, {square(10, 10, 80)})}, symbol);
-    map.contents[0].shapes[0].label = "H";
+    map.map.contents[0].shapes[0].label = "H";
     const QImage picture = map.paint(squareCamera());
     int dark = 0, light = 0;
     for (int y = 25; y < 75; ++y) {
@@ -169,6 +175,6 @@ TEST(MapPainter, LabelsAreDarkOnALightRim) {
     }
     EXPECT_GT(dark, 30);
     EXPECT_GT(light, 30);
-    map.scene.layers[0].symbols[0].SymbolEnableLabels = false;
+    map.map.scene.layers[0].symbols[0].SymbolEnableLabels = false;
     EXPECT_EQ(map.at(50, 50), QColor(Qt::red));
 }

@@ -1,4 +1,4 @@
-#include "map/surface/Scene.h"
+#include "map/surface/SymbolChoice.h"
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ class NumericMatch : public testing::TestWithParam<Match> {};
 } // namespace
 
 TEST_P(NumericMatch, PicksTheBand) {
-    EXPECT_EQ(symbolOf(numericLayer(), GetParam().value), GetParam().symbol);
+    EXPECT_EQ(SymbolChoice(numericLayer()).of(GetParam().value), GetParam().symbol);
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, NumericMatch,
@@ -52,10 +52,10 @@ TEST(Scene, TextsMatchWithoutCase) {
     layer.LayerLinkType = SymbolLink::Text;
     layer.symbols = {text("North"), text("South"), text("10")};
 
-    EXPECT_EQ(symbolOf(layer, "SOUTH"), 1u);
-    EXPECT_EQ(symbolOf(layer, 10), 2u);
-    EXPECT_EQ(symbolOf(layer, "West"), 0u);
-    EXPECT_EQ(symbolOf(layer, Value()), 0u);
+    EXPECT_EQ(SymbolChoice(layer).of("SOUTH"), 1u);
+    EXPECT_EQ(SymbolChoice(layer).of(10), 2u);
+    EXPECT_EQ(SymbolChoice(layer).of("West"), 0u);
+    EXPECT_EQ(SymbolChoice(layer).of(Value()), 0u);
 }
 
 TEST(Scene, ALayerIsDrawnBetweenItsZoomTriggers) {
