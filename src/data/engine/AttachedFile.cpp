@@ -149,6 +149,18 @@ jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
     table.schema = schema_;
     table.name = name;
     table.isView = isView;
+    try {
+        table.columns = readColumns(name);
+    } catch (const DatabaseError&) {
+        if (!isView)
+            throw;
+        // One over a table that has gone: it can still be dropped, and reading it says what is missing.
+    }
+    return table;
+}
+
+std::vector<Field> AttachedFile::readColumns(const std::string& name) const {
+    std::vector<Field> fields;
     sqlite::Statement columns(*connection_, "PRAGMA " + schema_ + ".table_xinfo(" + quoteIdentifier(name) + ")");
     while (columns.step()) {
         // A column of a type that is none of ours (a file made by other means, an expression of a view) counts as a
@@ -161,9 +173,9 @@ jet::Table AttachedFile::readTable(const std::string& name, bool isView) const {
         const bool givenByType = field.type == FieldType::Boolean && columns.text(4) == "0";
         if (!columns.isNull(4) && !givenByType)
             field.defaultValue = std::string(columns.text(4));
-        table.columns.push_back(std::move(field));
+        fields.push_back(std::move(field));
     }
-    return table;
+    return fields;
 }
 
 void AttachedFile::hold(const std::shared_ptr<AttachedFile>& other) {

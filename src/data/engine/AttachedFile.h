@@ -29,6 +29,8 @@ public:
     sqlite::Connection& connection() const { return *connection_; }
     /// Whether a password opens the file: any does where it has none.
     bool admits(std::string_view password) const { return password_.empty() || password == password_; }
+    /// See Database::companion.
+    std::shared_ptr<void>& companion() { return companion_; }
 
     /// The tables and views as they stand in the file now, by folded name. Read anew when the file's schema has
     /// changed.
@@ -74,6 +76,7 @@ private:
     DatabaseError withPaths(const DatabaseError& error) const;
     void readSchema();
     jet::Table readTable(const std::string& name, bool isView) const;
+    std::vector<Field> readColumns(const std::string& name) const;
 
     std::shared_ptr<sqlite::Connection> connection_;
     std::string path_;
@@ -84,6 +87,7 @@ private:
     std::map<std::string, jet::Table> tables_;
     std::map<std::string, Link> links_;
     std::vector<std::weak_ptr<AttachedFile>> held_; ///< the one used last at the end; the workspace owns them
+    std::shared_ptr<void> companion_;
 };
 
 /// Tables of the engine itself, which the dialect does not show.

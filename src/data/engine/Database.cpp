@@ -50,6 +50,15 @@ void Database::execute(std::string_view statement) {
     impl_->file().named([&] { impl_->run(program); });
 }
 
+void Database::createView(const std::string& viewName, std::string_view query) {
+    impl_->file();
+    impl_->file().named([&] { impl_->createView(viewName, query); });
+}
+
+std::shared_ptr<void>& Database::companion() const {
+    return impl_->file().companion();
+}
+
 long Database::recordsAffected() const {
     impl_->file();
     return impl_->recordsAffected;

@@ -41,6 +41,11 @@ public:
     /// Runs a statement of either kind: the rows of a query, or null after one that changes data.
     std::shared_ptr<Recordset> run(std::string_view statement);
 
+    /// Makes a view of this file: a table that shows, whenever it is read, the rows of a query over other tables of the
+    /// file. It can be dropped as any table, its rows cannot be changed. Throws as execute(), and 3078 for a query over
+    /// an attached table or another file.
+    void createView(const std::string& name, std::string_view query);
+
     /// What a statement becomes for the storage library; runs nothing. Throws as execute().
     jet::Program translate(std::string_view statement) const;
 
@@ -55,6 +60,10 @@ public:
     /// it.
     sqlite::Connection& connection() const;
     std::string schema() const;
+
+    /// One thing that belongs to the open file whoever has a handle on it, such as its rows in another form. Null until
+    /// somebody sets it; goes when the file is let go.
+    std::shared_ptr<void>& companion() const;
 
 private:
     std::shared_ptr<Recordset> open(jet::Program program);

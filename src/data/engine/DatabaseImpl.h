@@ -34,6 +34,7 @@ public:
     AttachedFile& file() const;
     void refuseWhereReadOnly() const;
     void run(const jet::Program& program);
+    void createView(const std::string& name, std::string_view query);
 
     std::shared_ptr<Workspace> workspace;
     std::shared_ptr<AttachedFile> attached; ///< null after close

@@ -4,6 +4,11 @@
 
 namespace jet {
 
+std::string qualifiedName(const Table& table) {
+    const std::string name = quoteIdentifier(table.name);
+    return table.schema.empty() ? name : quoteIdentifier(table.schema) + "." + name;
+}
+
 bool Catalog::isLink(std::string_view name) {
     try {
         const auto table = findTable(name);

@@ -18,6 +18,9 @@ struct Table {
     bool isView = false;        ///< its rows are those of a query and cannot be changed
 };
 
+/// "schema"."table" of the storage library; "table" for one without a schema, as a view names those of its own file.
+std::string qualifiedName(const Table& table);
+
 /// An index of a table, as ALTER TABLE must make it again.
 struct Index {
     std::string name; ///< in the storage library, unquoted

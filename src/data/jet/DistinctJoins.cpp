@@ -68,8 +68,8 @@ void Emitter::findDistinctJoins(const Select& select) {
 
 std::string Emitter::distinctValues(const Source& source, int column) const {
     const std::string name = quoteIdentifier(source.name);
-    return "(SELECT DISTINCT " + columnText(source, column) + " FROM " + quoteIdentifier(source.table->schema) + "." +
-           quoteIdentifier(source.table->name) + " AS " + name + " LIMIT -1) AS " + name;
+    return "(SELECT DISTINCT " + columnText(source, column) + " FROM " + qualifiedName(*source.table) + " AS " + name +
+           " LIMIT -1) AS " + name;
 }
 
 } // namespace jet

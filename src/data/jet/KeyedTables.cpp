@@ -141,7 +141,7 @@ std::string Emitter::keyText(const Expression& expression) const {
 std::string Emitter::tableWithKeys(const Source& source) {
     const Table& table = *source.table;
     const std::string name = quoteIdentifier(source.name);
-    const std::string plain = quoteIdentifier(table.schema) + "." + quoteIdentifier(table.name) + " AS " + name;
+    const std::string plain = qualifiedName(table) + " AS " + name;
     const auto keys = keys_.find(&source);
     if (keys == keys_.end()) {
         const auto distinct = distinctColumns_.find(&source);

@@ -69,10 +69,6 @@ Program translate(std::string_view text, Catalog& catalog) {
         statement);
 }
 
-std::string qualifiedName(const Table& table) {
-    return quoteIdentifier(table.schema) + "." + quoteIdentifier(table.name);
-}
-
 std::size_t columnIndex(const Table& table, std::string_view name, std::size_t position, long error) {
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         if (equalText(table.columns[i].name, name))

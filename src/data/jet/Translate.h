@@ -17,8 +17,6 @@ Program translateDropTable(const DropTable& drop, Catalog& catalog);
 Program translateDropIndex(const DropIndex& drop, Catalog& catalog);
 Program translateAlterTable(const AlterTable& alter, Catalog& catalog);
 
-/// "schema"."table" of the storage library.
-std::string qualifiedName(const Table& table);
 /// Position of the column in the table. Throws `error` where there is none.
 std::size_t columnIndex(const Table& table, std::string_view name, std::size_t position, long error);
 /// Throws 3073 where the table's rows cannot be changed.

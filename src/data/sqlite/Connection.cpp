@@ -41,6 +41,8 @@ Connection::Connection() {
     sqlite3_extended_result_codes(handle_, 1);
     sqlite3_busy_timeout(handle_, busyMilliseconds);
     sqlite3_limit(handle_, SQLITE_LIMIT_LENGTH, longestValue);
+    // A column can be dropped although a view of the file shows what is no longer there.
+    sqlite3_db_config(handle_, SQLITE_DBCONFIG_LEGACY_ALTER_TABLE, 1, nullptr);
     switchOffJoinFilters(handle_);
     try {
         jet::registerFunctions(handle_);
