@@ -76,5 +76,6 @@ public:
     virtual std::vector<CallerCount> mobileAndVoipCallers(CallerKind kind) = 0;
 };
 
-/// The source that the program uses for a boundary.
+/// The source that the program uses for a boundary, as figureEngine() says: a scan of the calls in memory, statements
+/// for what it cannot do, or one of the two alone.
 std::unique_ptr<FigureSource> newFigureSource(const BoundaryTraits& boundary);

@@ -1,16 +1,23 @@
 #include "stats/ScanFigures.h"
 
+#include "core/LogError.h"
+#include "core/ModDeclarations.h"
 #include "data/jet/Parser.h"
 #include "data/jet/Search.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "data/types/DatabaseError.h"
+#include "stats/FigureEngine.h"
+#include "stats/ProjectCalls.h"
+#include "stats/WorkingViews.h"
 
 #include <algorithm>
 #include <initializer_list>
 #include <map>
 
 namespace {
+
+constexpr long doesNotFit = 5; // as any argument that a procedure cannot take
 
 bool isOneOf(const Value& text, std::initializer_list<const char*> wanted) {
     return !text.isNull() &&
@@ -57,45 +64,83 @@ void addTo(SpecialRowFigures& figures, const Value& answerInd, const CallSums& s
 
 } // namespace
 
+ScanFigures::ScanFigures(const BoundaryTraits& boundary)
+    : area_(boundary.dataColumn), ofProject_(true), statements_(boundary) {}
+
 ScanFigures::ScanFigures(const BoundaryTraits& boundary, std::shared_ptr<const CallColumns> columns)
-    : area_(boundary.dataColumn), columns_(std::move(columns)), statements_(boundary) {}
+    : area_(boundary.dataColumn), ofProject_(false), columns_(std::move(columns)), statements_(boundary) {}
+
+CallScan ScanFigures::scanOrThrow(const std::string& where) {
+    if (!columns_)
+        throw DatabaseError(doesNotFit, whyNoProjectCalls());
+    if (!areas_)
+        areas_.emplace(projectDatabase(), area_, *columns_);
+    std::optional<CallPredicate> predicate;
+    if (!where.empty()) {
+        predicate = CallPredicate::compile(where, callTablesOf(projectDatabase()), *columns_);
+        if (!predicate)
+            throw DatabaseError(doesNotFit, "The selection looks at more than columns of calls, or is wrong:" + where);
+    }
+    const ScanBoundary* boundary = &areas_->boundary;
+    return scanCalls(*columns_, predicate ? &*predicate : nullptr, {&boundary, 1});
+}
 
 std::optional<CallScan> ScanFigures::scan(const std::string& where) {
     try {
-        if (!areas_)
-            areas_.emplace(projectDatabase(), area_, *columns_);
-        std::optional<CallPredicate> predicate;
-        if (!where.empty()) {
-            predicate = CallPredicate::compile(where, callTablesOf(projectDatabase()), *columns_);
-            if (!predicate)
-                return {};
-        }
-        const ScanBoundary* boundary = &areas_->boundary;
-        return scanCalls(*columns_, predicate ? &*predicate : nullptr, {&boundary, 1});
-    } catch (const DatabaseError&) {
-        return {}; // the statement logs what is wrong
+        return scanOrThrow(where);
+    } catch (const DatabaseError& error) {
+        refusal_ = error.description();
+        return {};
     }
+}
+
+ScanFigures::Origin ScanFigures::withoutScan() const {
+    if (figureEngine() != FigureEngine::Scan)
+        return Origin::Statements;
+    LogError(gsCurrentProc, doesNotFit, "The figures cannot be had by a scan of the calls. " + refusal_);
+    return Origin::Nobody;
 }
 
 void ScanFigures::makeSelectedData(const CallSelection& selection) {
     selection_ = selection;
     areas_.reset(); // the geography may have changed since the last run
-    selected_ = scan(selection.where);
-    if (!selected_)
+    if (ofProject_)
+        onSystemDatabase([&] { columns_ = projectCalls(); });
+    if (auto scanned = scan(selection.where)) {
+        selected_ = std::move(*scanned);
+        selectedBy_ = Origin::Scan;
+        leaveSelectedCalls(area_, selection);
+        return;
+    }
+    selectedBy_ = withoutScan();
+    if (selectedBy_ == Origin::Statements)
         statements_.makeSelectedData(selection);
 }
 
 void ScanFigures::makeCallers(CallerKind kind, const std::string& where) {
-    auto& callers = callersOf(kind);
-    callers.reset();
-    if (where.empty() || standsBehindAnd(where)) {
-        if (selected_ && selection_.where == where)
-            callers = selected_->callers.front();
-        else if (const auto scanned = scan(where))
-            callers = scanned->callers.front();
+    Callers& callers = callersOf(kind);
+    std::optional<CallScan> scanned;
+    if (!where.empty() && !standsBehindAnd(where))
+        refusal_ = "The selection means something else behind an And:" + where;
+    else if (selectedBy_ == Origin::Scan && selection_.where == where)
+        scanned = selected_;
+    else
+        scanned = scan(where);
+    if (scanned) {
+        callers = {Origin::Scan, std::move(scanned->callers.front())};
+        leaveCallers(kind, area_, where, callersByArea(kind));
+        return;
     }
-    if (!callers)
+    callers.origin = withoutScan();
+    if (callers.origin == Origin::Statements)
         statements_.makeCallers(kind, where);
+}
+
+template<typename Ask>
+auto ScanFigures::ofOthers(Origin origin, Ask ask) -> decltype(ask()) {
+    if (origin == Origin::Statements)
+        return ask();
+    return {};
 }
 
 bool ScanFigures::isLeftOut(std::size_t code) const {
@@ -112,8 +157,8 @@ void ScanFigures::forEachSum(
             continue;
         for (const std::uint32_t area : areas_->boundary.areasOfCode[code]) {
             for (std::size_t ind = 0; ind < answerInds.size(); ++ind) {
-                if (selected_->of(code, ind).calls > 0)
-                    sums[area][answerInds[ind]] += selected_->of(code, ind);
+                if (selected_.of(code, ind).calls > 0)
+                    sums[area][answerInds[ind]] += selected_.of(code, ind);
             }
         }
     }
@@ -124,8 +169,8 @@ void ScanFigures::forEachSum(
 }
 
 std::vector<CallCount> ScanFigures::callsByArea() {
-    if (!selected_)
-        return statements_.callsByArea();
+    if (selectedBy_ != Origin::Scan)
+        return ofOthers(selectedBy_, [&] { return statements_.callsByArea(); });
     std::vector<CallCount> counts;
     forEachSum([&](const AreaName& area, const Value& answerInd, const CallSums& sums) {
         counts.push_back({area, answerInd, sums.calls - sums.callsWithoutNumber});
@@ -134,8 +179,8 @@ std::vector<CallCount> ScanFigures::callsByArea() {
 }
 
 std::vector<MoneySum> ScanFigures::moneyByArea(CallMoney money) {
-    if (!selected_)
-        return statements_.moneyByArea(money);
+    if (selectedBy_ != Origin::Scan)
+        return ofOthers(selectedBy_, [&] { return statements_.moneyByArea(money); });
     std::vector<MoneySum> rows;
     forEachSum([&](const AreaName& area, const Value&, const CallSums& sums) {
         const std::int64_t sum = money == CallMoney::Cost ? sums.cost : -sums.revenue;
@@ -146,10 +191,10 @@ std::vector<MoneySum> ScanFigures::moneyByArea(CallMoney money) {
 }
 
 std::vector<CallerCount> ScanFigures::callersByArea(CallerKind kind) {
-    const auto& callers = callersOf(kind);
-    if (!callers)
-        return statements_.callersByArea(kind);
-    const auto& counts = kind == CallerKind::Answered ? callers->answered : callers->lost;
+    const Callers& callers = callersOf(kind);
+    if (callers.origin != Origin::Scan)
+        return ofOthers(callers.origin, [&] { return statements_.callersByArea(kind); });
+    const auto& counts = kind == CallerKind::Answered ? callers.counts.answered : callers.counts.lost;
     std::vector<CallerCount> rows;
     for (std::size_t area = 0; area < counts.size(); ++area) {
         if (counts[area] > 0)
@@ -159,16 +204,18 @@ std::vector<CallerCount> ScanFigures::callersByArea(CallerKind kind) {
 }
 
 std::vector<CallerCount> ScanFigures::mobileAndVoipCallers(CallerKind kind) {
-    if (!callersOf(kind))
-        return statements_.mobileAndVoipCallers(kind);
-    std::vector<CallerCount> rows = callersByArea(kind);
-    std::erase_if(rows, [](const CallerCount& row) { return !row.area || !isOneOf(*row.area, {"MOBILE", "VOIP"}); });
-    return rows;
+    const Origin origin = callersOf(kind).origin;
+    std::optional<std::vector<CallerCount>> rows =
+        origin == Origin::Scan ? callersByArea(kind) : leftCallers(kind, area_);
+    if (!rows)
+        return ofOthers(origin, [&] { return statements_.mobileAndVoipCallers(kind); });
+    std::erase_if(*rows, [](const CallerCount& row) { return !row.area || !isOneOf(*row.area, {"MOBILE", "VOIP"}); });
+    return *rows;
 }
 
 SpecialRowFigures ScanFigures::specialRow(std::string_view test) {
-    if (!selected_)
-        return statements_.specialRow(test);
+    if (selectedBy_ != Origin::Scan)
+        return ofOthers(selectedBy_, [&] { return statements_.specialRow(test); });
     SpecialRowFigures figures;
     onSystemDatabase([&] {
         const jet::Search search(area_ + std::string(test),
@@ -184,7 +231,7 @@ SpecialRowFigures ScanFigures::specialRow(std::string_view test) {
                 continue;
             for (const std::uint32_t place : areas_->placesOfCode[code]) {
                 for (std::size_t ind = 0; fits[place] && ind < answerInds.size(); ++ind)
-                    addTo(figures, answerInds[ind], selected_->of(code, ind));
+                    addTo(figures, answerInds[ind], selected_.of(code, ind));
             }
         }
     });

@@ -1,19 +1,9 @@
 #include "stats/StatementFigures.h"
 
+#include "stats/CallQueries.h"
 #include "stats/ProjectFigures.h"
 
 using namespace projectFigures;
-
-namespace {
-
-constexpr std::string_view callsWithGeography =
-    " FROM TblTeleItem INNER JOIN TblMappingGIS ON TblTeleItem.[1141] = TblMappingGIS.[1141]";
-
-} // namespace
-
-std::unique_ptr<FigureSource> newFigureSource(const BoundaryTraits& boundary) {
-    return std::make_unique<StatementFigures>(boundary);
-}
 
 StatementFigures::StatementFigures(const BoundaryTraits& boundary) : area_(boundary.dataColumn) {}
 
@@ -22,23 +12,14 @@ std::string StatementFigures::areaIn(std::string_view table) const {
 }
 
 void StatementFigures::makeSelectedData(const CallSelection& selection) {
-    std::string condition;
-    if (!selection.where.empty())
-        condition = " WHERE " + selection.where;
-    else if (selection.withoutUnplacedCalls)
-        condition = " WHERE TblMappingGIS.[1141] NOT IN ('MOBILE', 'UNTRACEAB', 'OLO', 'NO CLI')";
     dropWorkingTable("SelectedData");
-    execute("SELECT TblTeleItem.CalledNo, TblTeleItem.AnswerInd, TblTeleItem.Discounted, " + areaIn("TblMappingGIS") +
-            " INTO SelectedData" + std::string(callsWithGeography) + condition + " ORDER BY " +
-            areaIn("TblMappingGIS") + ", AnswerInd");
+    execute(selectedCallsQuery(area_, selection, " INTO SelectedData"));
 }
 
 void StatementFigures::makeCallers(CallerKind kind, const std::string& where) {
     const std::string table = callersTable(kind);
     dropWorkingTable(table);
-    execute("SELECT DISTINCT TblTeleItem.CallingNo, " + areaIn("TblMappingGIS") + " INTO " + table +
-            std::string(callsWithGeography) + " WHERE (((TblTeleItem.AnswerInd) " + outcomeTest(kind) + "))" +
-            (where.empty() ? "" : " AND " + where));
+    execute(callersQuery(kind, area_, where, " INTO " + table));
     if (kind == CallerKind::Lost)
         removeAnsweredFromLost();
 }

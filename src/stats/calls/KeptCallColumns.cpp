@@ -3,6 +3,7 @@
 #include "data/engine/Database.h"
 #include "data/types/DatabaseError.h"
 #include "stats/calls/ByteStream.h"
+#include "stats/calls/CallMark.h"
 #include "stats/calls/CallReader.h"
 #include "stats/calls/TextIds.h"
 
@@ -13,7 +14,7 @@
 
 namespace {
 
-constexpr std::int64_t formatVersion = 1;
+constexpr std::int64_t formatVersion = 2;
 constexpr std::size_t pieceBytes = 1 << 20;
 constexpr std::int64_t headerPart = -1;
 
@@ -50,14 +51,12 @@ std::uint64_t hashOfSample(Database& project, std::int64_t lowest, std::int64_t 
     return hash;
 }
 
-/// What the kept columns must agree with, apart from the number of calls.
+/// What the kept columns must agree with, apart from the number of calls. The mark alone would do where every program
+/// that writes the file minds triggers; the rest costs nothing.
 std::string stampOf(Database& project) {
     const std::string schema = quoteIdentifier(project.schema());
-    sqlite::Statement definition(project.connection(), "SELECT sql FROM " + schema +
-                                                           ".sqlite_schema WHERE name = 'TblTeleItem' COLLATE NOCASE");
     sqlite::Statement lowest(project.connection(), "SELECT min(rowid) FROM " + schema + ".TblTeleItem");
     sqlite::Statement highest(project.connection(), "SELECT max(rowid) FROM " + schema + ".TblTeleItem");
-    definition.step();
     lowest.step();
     highest.step();
     ByteWriter stamp;
@@ -65,7 +64,7 @@ std::string stampOf(Database& project) {
     stamp.number(lowest.integer(0));
     stamp.number(highest.integer(0));
     stamp.number(static_cast<std::int64_t>(hashOfSample(project, lowest.integer(0), highest.integer(0))));
-    stamp.text(definition.text(0));
+    stamp.text(callMark(project));
     return stamp.bytes();
 }
 
@@ -233,7 +232,7 @@ bool idsFit(const CallColumns& columns) {
 std::optional<CallColumns> load(Database& project, const CallProgress& progress) {
     const std::string headerBytes = readHeader(project);
     ByteReader header(headerBytes);
-    if (header.text() != stampOf(project))
+    if (callMark(project).empty() || header.text() != stampOf(project))
         return {};
     CallColumns columns;
     const std::int64_t rowNumber = header.number();
@@ -264,6 +263,8 @@ std::optional<CallColumns> load(Database& project, const CallProgress& progress)
 void saveCallColumns(Database& project, const CallColumns& columns, const CallProgress& progress) {
     if (project.isReadOnly())
         return;
+    sqlite::Savepoint whole(project.connection());
+    makeCallMark(project);
     ByteWriter header;
     header.text(stampOf(project));
     header.number(static_cast<std::int64_t>(columns.size()));
@@ -271,7 +272,6 @@ void saveCallColumns(Database& project, const CallColumns& columns, const CallPr
     for (const auto& values : columns.values)
         writeValues(header, values);
 
-    sqlite::Savepoint whole(project.connection());
     project.connection().execute("CREATE TABLE IF NOT EXISTS " + keptTable(project) +
                                  "(Part INTEGER, Offset INTEGER, Size INTEGER, Checksum INTEGER, Data BLOB)");
     project.connection().execute("DELETE FROM " + keptTable(project));
@@ -300,4 +300,5 @@ std::optional<CallColumns> loadCallColumns(Database& project, const CallProgress
 
 void removeKeptCallColumns(Database& project) {
     project.connection().execute("DROP TABLE IF EXISTS " + keptTable(project));
+    removeCallMark(project);
 }

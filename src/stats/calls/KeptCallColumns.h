@@ -8,10 +8,9 @@
 class Database;
 
 /// The columns as they are kept in the project file, in table MSysCallColumns, so that they are built once: compressed
-/// pieces of a megabyte with checksums, and a stamp by which they are known to fit the calls: format, number of calls,
-/// lowest and highest row number, the definition of TblTeleItem and a sample of its rows. The stamp does not count the
-/// rows again, which would take longer than loading; whoever changes calls in place removes the kept columns.
-/// Main thread, which does the reading and writing; `progress` must not use the project.
+/// pieces of a megabyte with checksums, and a stamp by which they are known to fit the calls: the mark of CallMark.h,
+/// which goes with any change of a call, and beside it format, number of calls, lowest and highest row number and a
+/// sample of the rows. Main thread, which does the reading and writing; `progress` must not use the project.
 
 /// Writes the columns in place of those kept before, in one transaction. A file opened for reading only is left alone,
 /// as it is where `progress` stopped the work. Throws DatabaseError for faults of the file.
