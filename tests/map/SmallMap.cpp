@@ -4,30 +4,6 @@
 #include "data/engine/Workspace.h"
 #include "map/surface/MapSurface.h"
 
-ShapeRing squareRing(double x, double y, double side) {
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}, {x, y}};
-}
-
-void addPolygon(Database& database, const std::string& table, std::int64_t id, const std::string& name,
-                const Shape& shape, const std::string& nameColumn) {
-    const EncodedShape encoded = encodeShape(shape);
-    const auto rows = database.openRecordset("SELECT * FROM " + table);
-    rows->AddNew();
-    rows->set(nameColumn, name);
-    rows->set("POLYGONID", id);
-    rows->set("NUMVERT", encoded.numVert);
-    rows->set("BOUNDLOWX", encoded.bounds.lowX);
-    rows->set("BOUNDLOWY", encoded.bounds.lowY);
-    rows->set("BOUNDUPPX", encoded.bounds.upX);
-    rows->set("BOUNDUPPY", encoded.bounds.upY);
-    rows->set("CENTERX", encoded.centerX);
-    rows->set("CENTERY", encoded.centerY);
-    rows->set("VERTICES", encoded.vertices);
-    rows->set("NUMPARTS", encoded.numParts);
-    rows->set("PARTS", encoded.parts);
-    rows->Update();
-}
-
 void addLabelPoint(Database& database, const std::string& table, std::int64_t id, const std::string& name, double x,
                    double y) {
     const auto rows = database.openRecordset("SELECT * FROM " + table);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/shapes/ShapeCodec.h"
+#include "tests/support/ShapeRows.h"
 #include "tests/support/SmallInstallation.h"
 
 #include <QColor>
@@ -10,12 +10,6 @@
 
 class MapSurface;
 
-/// An upright square, its low left corner at (x, y), anticlockwise.
-ShapeRing squareRing(double x, double y, double side);
-
-/// Adds an area to a polygon table. `nameColumn` is GROUPNAME in PGN_GROUPS.
-void addPolygon(Database& database, const std::string& table, std::int64_t id, const std::string& name,
-                const Shape& shape, const std::string& nameColumn = "NAME");
 void addLabelPoint(Database& database, const std::string& table, std::int64_t id, const std::string& name, double x,
                    double y);
 /// Adds a row to a statistics table.
