@@ -1,5 +1,11 @@
 #include "core/CallHistory.h"
 
+#include "core/FileNames.h"
+#include "core/LogAndGoOn.h"
+#include "core/ModDeclarations.h"
+#include "core/Progress.h"
+#include "core/ReplaceFile.h"
+#include "core/RuntimeError.h"
 #include "core/WriteLine.h"
 #include "core/cPathControl.h"
 
@@ -28,20 +34,39 @@ std::size_t endOfCharacters(std::string_view text, std::size_t count) {
     return at;
 }
 
+/// The next line without quotes and line end.
+bool readRow(std::istream& in, std::string& row) {
+    std::string line;
+    if (!std::getline(in, line))
+        return false;
+    if (line.ends_with('\r'))
+        line.pop_back();
+    row = StripQuotes(line);
+    return true;
+}
+
 } // namespace
 
 std::vector<std::string> readRows(const std::string& file) {
     std::vector<std::string> rows;
     std::ifstream in(toPath(file));
     std::string line;
-    while (rows.size() < mostRows && std::getline(in, line)) {
-        if (line.ends_with('\r'))
-            line.pop_back();
-        rows.push_back(StripQuotes(line));
-    }
+    while (rows.size() < mostRows && readRow(in, line))
+        rows.push_back(line);
     if (rows.empty())
         rows.emplace_back(moreFiles);
     return rows;
+}
+
+std::vector<std::string> withLatest(const std::string& project, const std::vector<std::string>& rows) {
+    std::vector<std::string> history{std::string(moreFiles)};
+    if (!project.empty())
+        history.push_back(project);
+    const std::size_t full = 1 + mostPaths - (project.empty() ? 1 : 0); // the first place is the open project's
+    for (const std::string& row : rows)
+        if (history.size() < full && row != project && row != moreFiles && !row.empty())
+            history.push_back(row);
+    return history;
 }
 
 std::string shortened(std::string_view path) {
@@ -63,3 +88,48 @@ std::string shortName(std::string_view path) {
 }
 
 } // namespace CallHistory
+
+namespace {
+
+constexpr long pathFileAccessError = 75;
+
+std::string historyFile() {
+    return fileInFolder(gPaths ? gPaths->ApplicationDataPath : std::string(), CallHistory::fileName);
+}
+
+/// All rows of the file; none where there is no file. A file that cannot be read is a fault, for it would be lost.
+std::vector<std::string> allRows(const std::string& file) {
+    std::vector<std::string> rows;
+    std::error_code error;
+    if (!std::filesystem::exists(toPath(file), error))
+        return rows;
+    std::ifstream in(toPath(file));
+    std::string row;
+    while (CallHistory::readRow(in, row))
+        rows.push_back(row);
+    if (!in.eof())
+        throw RuntimeError(pathFileAccessError, "Path/File access error: cannot read " + file);
+    return rows;
+}
+
+} // namespace
+
+void ModUtilities_SaveHistory() {
+    gsCurrentProc = "ModUtilities_SaveHistory";
+    const Hourglass hourglass;
+    logAndGoOn([] {
+        const std::string file = historyFile();
+        std::string lines;
+        for (const std::string& row : CallHistory::withLatest(gsProjectPath, allRows(file)))
+            lines += WriteLine().text(row).str() + '\n';
+        replaceFile(file, lines);
+    });
+}
+
+std::vector<std::string> ModUtilities_ReadHistory() {
+    gsCurrentProc = "ModUtilities_ReadHistory";
+    std::error_code error;
+    if (!std::filesystem::exists(toPath(historyFile()), error))
+        ModUtilities_SaveHistory();
+    return CallHistory::readRows(historyFile());
+}

@@ -44,3 +44,12 @@ bool fileExists(std::string_view folder, std::string_view name) {
     std::error_code error;
     return std::filesystem::is_regular_file(toPath(fileInFolder(folder, name)), error);
 }
+
+bool FileExistsInFolder(std::string_view path) {
+    const std::size_t separator = path.find_last_of("/\\");
+    if (path.empty() || separator == path.size() - 1)
+        return false;
+    if (separator == std::string_view::npos)
+        return fileExists(".", path);
+    return fileExists(path.substr(0, separator + 1), path.substr(separator + 1));
+}

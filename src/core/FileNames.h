@@ -12,3 +12,6 @@ std::string fileInFolder(std::string_view folder, std::string_view name);
 
 /// Whether fileInFolder() leads to a plain file.
 bool fileExists(std::string_view folder, std::string_view name);
+
+/// Whether the folder of `path` has a plain file of the name behind its last separator. False for an empty path.
+bool FileExistsInFolder(std::string_view path);

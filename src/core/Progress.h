@@ -13,6 +13,7 @@ public:
     virtual void setMessageBar(long /*maximum*/, long /*value*/) {}
     /// FrmMain's bar Prog1: shown, maximum and value.
     virtual void setReportBar(bool /*visible*/, long /*maximum*/, long /*value*/) {}
+    /// Long work inside long work switches it on once more; it goes when all have switched it off.
     virtual void setHourglass(bool /*on*/) {}
     /// Lets the message loop run so that windows repaint; the windows that could start other work are disabled by then.
     virtual void yield() {}
@@ -21,3 +22,12 @@ public:
 /// The program's progress display; never null (the default shows nothing). The caller keeps ownership.
 Progress& progress();
 void setProgress(Progress* progress);
+
+/// The hourglass for as long as it lives, so that every way out of long work takes it away.
+class Hourglass {
+public:
+    Hourglass() { progress().setHourglass(true); }
+    ~Hourglass() { progress().setHourglass(false); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+};

@@ -1,5 +1,6 @@
 #include "core/Prompts.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace {
@@ -18,12 +19,20 @@ public:
         }
         return PromptAnswer::Ok;
     }
+    int getOption(OptionsMode mode) override {
+        std::cerr << promptOptions(mode).text << '\n';
+        return Prompts::getOption(mode);
+    }
 };
 
 StandardErrorPrompts standardErrorPrompts;
 Prompts* currentPrompts = &standardErrorPrompts;
 
 } // namespace
+
+int Prompts::getOption(OptionsMode mode) {
+    return std::max(promptOptions(mode).cancel, 0);
+}
 
 Prompts& prompts() {
     return *currentPrompts;

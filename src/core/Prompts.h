@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/PromptOptions.h"
+
 #include <string>
 
 /// Styles of a message box, by the numbers under which the messages are told.
@@ -13,6 +15,8 @@ class Prompts {
 public:
     virtual ~Prompts() = default;
     virtual PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) = 0;
+    /// The index of the button pressed (frmOptions). Where nobody can be asked: the button that cancels, or the first.
+    virtual int getOption(OptionsMode mode);
 };
 
 /// The program's prompts. Never null: until one is set, messages go to standard error and questions are answered with

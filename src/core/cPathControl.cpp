@@ -1,5 +1,6 @@
 #include "core/cPathControl.h"
 
+#include "core/ReplaceFile.h"
 #include "core/RuntimeError.h"
 
 #include <array>
@@ -80,14 +81,20 @@ std::string cPathControl::GetDefaultDataPath() const {
 
 void cPathControl::createDefaults(const std::filesystem::path& file, const std::string& programFolder) const {
     const std::string data = GetDefaultDataPath();
-    const std::array<std::string, pathKeys.size()> defaults{data, joinPath(data, "Projects"), joinPath(data, "Backup"),
-                                                            folderText(programFolder), joinPath(data, "Account")};
-    std::ofstream out(file);
-    for (std::size_t i = 0; i < pathKeys.size(); ++i)
-        out << pathKeys[i].key << '=' << defaults[i] << '\n';
-    out.close();
-    if (!out)
-        throw RuntimeError(pathFileAccessError, "Path/File access error: cannot write " + toText(file));
+    cPathControl defaults(*this);
+    defaults.ApplicationDataPath = data;
+    defaults.ProjectDataPath = joinPath(data, "Projects");
+    defaults.BackupFolderPath = joinPath(data, "Backup");
+    defaults.ApplicationRootPath = folderText(programFolder);
+    defaults.AccountDataPath = joinPath(data, "Account");
+    replaceFile(toText(file), defaults.settingsText());
+}
+
+std::string cPathControl::settingsText() const {
+    std::string text;
+    for (const PathKey& known : pathKeys)
+        text.append(known.key).append("=").append(this->*known.property).append("\n");
+    return text;
 }
 
 void cPathControl::read(const std::filesystem::path& file) {

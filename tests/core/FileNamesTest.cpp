@@ -26,4 +26,16 @@ TEST(FileNames, TakeNoFolderForAFile) {
     EXPECT_FALSE(fileExists(folder.file("missing"), "ukmap.mdb"));
 }
 
+TEST(FileNames, TellWhetherAPathLeadsToAFile) {
+    const TemporaryFolder folder;
+    writeText(folder.file("CustomerGroups.mdb"), "x");
+    folder.makeFolder("Log");
+    EXPECT_FALSE(FileExistsInFolder(""));
+    EXPECT_TRUE(FileExistsInFolder(folder.file("customergroups.MDB")));
+    EXPECT_TRUE(FileExistsInFolder(folder.text() + "\\CustomerGroups.mdb"));
+    EXPECT_FALSE(FileExistsInFolder(folder.file("comgroups.mdb")));
+    EXPECT_FALSE(FileExistsInFolder(folder.file("Log"))) << "a folder";
+    EXPECT_FALSE(FileExistsInFolder(folder.text() + "/")) << "no name";
+}
+
 } // namespace
