@@ -5,6 +5,7 @@
 #include "data/project/Databases.h"
 #include "report/CaptureRow.h"
 #include "stats/CurrentProcedure.h"
+#include "stats/ProjectCalls.h"
 
 #include <string>
 #include <string_view>
@@ -136,6 +137,7 @@ void CheckSelectedData(const ReportParameters& parameters) {
     logAndGoOn([&] { changed = changedByCallscope(); });
     if (changed) {
         logAndGoOn([] { projectDatabase().execute("UPDATE Tbl50 SET UpdateMapping = 0"); });
+        logAndGoOn(forgetProjectCalls);
         RecomputeSelection = true;
         return;
     }

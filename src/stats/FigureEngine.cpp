@@ -3,6 +3,7 @@
 namespace {
 
 FigureEngine chosen = FigureEngine::Automatic;
+FigureEngine used = FigureEngine::Automatic;
 
 } // namespace
 
@@ -12,4 +13,12 @@ void setFigureEngine(FigureEngine engine) {
 
 FigureEngine figureEngine() {
     return chosen;
+}
+
+FigureEngine usedFigureEngine() {
+    return used;
+}
+
+void noteUsedFigureEngine(FigureEngine engine) {
+    used = engine;
 }

@@ -10,3 +10,7 @@ enum class FigureEngine {
 /// Of the runs that follow. Automatic until somebody sets it. Main thread.
 void setFigureEngine(FigureEngine engine);
 FigureEngine figureEngine();
+
+/// Which of the two the last run counted its calls by; Automatic where it could not count them. Main thread.
+FigureEngine usedFigureEngine();
+void noteUsedFigureEngine(FigureEngine engine);

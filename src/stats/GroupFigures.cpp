@@ -4,6 +4,7 @@
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/project/SystemDatabaseStep.h"
+#include "stats/FigureEngine.h"
 #include "stats/ProjectFigures.h"
 
 using namespace projectFigures;
@@ -59,6 +60,7 @@ void makeGroupGeography(GroupAreas areas) {
 GroupFigures::GroupFigures(std::string table, GroupAreas areas) : table_(std::move(table)), areas_(areas) {}
 
 void GroupFigures::makeSelectedData(const CallSelection& selection) {
+    noteUsedFigureEngine(FigureEngine::Statements);
     const std::string area = "TblTempGIS." + areaColumn(areas_);
     dropWorkingTable(table_);
     execute("SELECT IIF((TblGroups.GroupName = '') or (tblGroups.GroupName IS NULL), " + area +

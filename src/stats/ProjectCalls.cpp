@@ -97,6 +97,13 @@ std::shared_ptr<const CallColumns> projectCalls() {
     return owned.columns;
 }
 
+void forgetProjectCalls() {
+    Database& project = projectDatabase();
+    project.companion().reset();
+    if (!project.isReadOnly())
+        removeKeptCallColumns(project);
+}
+
 std::string whyNoProjectCalls() {
     return callsOf(projectDatabase()).refusal;
 }

@@ -18,5 +18,9 @@
 /// of the file in looking whether the columns fit. Main thread.
 std::shared_ptr<const CallColumns> projectCalls();
 
+/// The project's data are said to have changed: neither the columns in memory nor those in the file are used any more.
+/// Throws DatabaseError as changing the file does.
+void forgetProjectCalls();
+
 /// Why the last projectCalls() of the open project was null; empty where it was not.
 std::string whyNoProjectCalls();

@@ -109,9 +109,11 @@ void ScanFigures::makeSelectedData(const CallSelection& selection) {
     if (auto scanned = scan(selection.where)) {
         selected_ = std::move(*scanned);
         selectedBy_ = Origin::Scan;
+        noteUsedFigureEngine(FigureEngine::Scan);
         leaveSelectedCalls(area_, selection);
         return;
     }
+    noteUsedFigureEngine(FigureEngine::Automatic);
     selectedBy_ = withoutScan();
     if (selectedBy_ == Origin::Statements)
         statements_.makeSelectedData(selection);

@@ -1,6 +1,7 @@
 #include "stats/StatementFigures.h"
 
 #include "stats/CallQueries.h"
+#include "stats/FigureEngine.h"
 #include "stats/ProjectFigures.h"
 
 using namespace projectFigures;
@@ -12,6 +13,7 @@ std::string StatementFigures::areaIn(std::string_view table) const {
 }
 
 void StatementFigures::makeSelectedData(const CallSelection& selection) {
+    noteUsedFigureEngine(FigureEngine::Statements);
     dropWorkingTable("SelectedData");
     execute(selectedCallsQuery(area_, selection, " INTO SelectedData"));
 }

@@ -13,6 +13,8 @@
 #include "map/workbook/Workbook.h"
 #include "report/OpenInstallation.h"
 #include "report/ReportRun.h"
+#include "stats/FigureEngine.h"
+#include "stats/ProjectCalls.h"
 #include "stats/SelectionState.h"
 #include "tools/callscope-tool/Commands.h"
 #include "tools/callscope-tool/ReportOptions.h"
@@ -156,6 +158,18 @@ long mapTypeNamed(const std::string& name) {
     return 0;
 }
 
+FigureEngine engineNamed(const std::string& name) {
+    if (name.empty())
+        return FigureEngine::Automatic;
+    return name == "scan" ? FigureEngine::Scan : FigureEngine::Statements;
+}
+
+/// What a scan had to do and could not is an error here; the log says why.
+void requireWantedEngine() {
+    if (figureEngine() == FigureEngine::Scan && usedFigureEngine() != FigureEngine::Scan)
+        throw RuntimeError(5, "The calls cannot be counted by a scan; the error log says why");
+}
+
 /// Fonts and painting need the library's application object, but never a display.
 void startPainting() {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -173,8 +187,7 @@ void startPainting() {
 }
 
 int runReportCommand(const ReportOptions& options) {
-    if (options.engine == "scan")
-        throw RuntimeError(5, "The calls can be counted by statements only");
+    setFigureEngine(engineNamed(options.engine));
     const long mapType = mapTypeNamed(options.mapType);
     StageTimes times;
     mainTable(options.boundaryCode()); // refuses before anything is opened
@@ -185,9 +198,13 @@ int runReportCommand(const ReportOptions& options) {
     const ReportParameters parameters = options.parameters(wholeProject());
     if (parameters.DTEnd.days < parameters.DTStart.days)
         throw RuntimeError(5, "Invalid date selection, report abandoned");
+    if (figureEngine() != FigureEngine::Statements)
+        times.measure("columns", [] { projectCalls(); });
     times.measure("capture", [&] { countWholeProject(options.boundaryCode()); });
+    requireWantedEngine();
     ReportFigures figures;
     times.measure("figures", [&] { figures = runReport(options.boundaryCode(), parameters); });
+    requireWantedEngine();
 
     startPainting();
     DrawnMap map;
@@ -202,7 +219,8 @@ int runReportCommand(const ReportOptions& options) {
     if (!options.xlsx.empty())
         writeXlsx(options, parameters, figures, png);
     showFigures(options, figures, map, mapType);
-    std::cout << times.lines();
+    std::cout << "engine      " << (usedFigureEngine() == FigureEngine::Scan ? "scan" : "statements") << '\n'
+              << times.lines();
     return Done;
 }
 
