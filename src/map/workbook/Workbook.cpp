@@ -2,8 +2,7 @@
 
 #include "core/RuntimeError.h"
 #include "data/engine/Recordset.h"
-
-#include <xlsxwriter.h>
+#include "map/workbook/Book.h"
 
 #include <algorithm>
 
@@ -17,40 +16,6 @@ std::string trimmed(std::string_view text) {
     if (first == std::string_view::npos)
         return "";
     return std::string(text.substr(first, text.find_last_not_of(" \r\n") - first + 1));
-}
-
-/// Owns the workbook until it has been written.
-class Book {
-public:
-    explicit Book(const std::string& path) : path_(path), book_(workbook_new(path.c_str())) {
-        if (!book_)
-            throw RuntimeError(75, "The workbook '" + path_ + "' cannot be written");
-    }
-    ~Book() {
-        if (book_)
-            workbook_close(book_);
-    }
-    Book(const Book&) = delete;
-    Book& operator=(const Book&) = delete;
-
-    lxw_worksheet* sheet(const char* name) { return workbook_add_worksheet(book_, name); }
-    lxw_format* format() { return workbook_add_format(book_); }
-    void close() {
-        const lxw_error fault = workbook_close(book_);
-        book_ = nullptr;
-        if (fault != LXW_NO_ERROR)
-            throw RuntimeError(75, "The workbook '" + path_ + "' cannot be written: " + lxw_strerror(fault));
-    }
-
-private:
-    std::string path_;
-    lxw_workbook* book_;
-};
-
-/// Characters of UTF-8, as a guess of how wide a text stands.
-double widthOf(std::string_view text) {
-    return static_cast<double>(
-        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 void fillParameters(Book& book, const WorkbookParameters& parameters) {
