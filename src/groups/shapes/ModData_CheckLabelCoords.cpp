@@ -1,12 +1,14 @@
 #include "groups/shapes/ModData_CheckLabelCoords.h"
 
 #include "core/CurrentProcedure.h"
+#include "core/LogAndGoOn.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "groups/shapes/LabelStatements.h"
 
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -14,8 +16,18 @@ std::int64_t distance(std::int32_t a, std::int32_t b) {
     return std::abs(std::int64_t{a} - b);
 }
 
-std::int32_t middleAcross(const Recordset& rows) {
-    return middle(wholeUnits(rows, "boundlowx"), wholeUnits(rows, "bounduppx"));
+struct LabelPoint {
+    std::int32_t x;
+    std::int32_t y;
+};
+
+/// The point of the members up to the current row, from that of those before it.
+LabelPoint withMember(const std::optional<LabelPoint>& before, const Recordset& row, std::int32_t targetY) {
+    const std::int32_t x = middle(wholeUnits(row, "boundlowx"), wholeUnits(row, "bounduppx"));
+    const LabelPoint start =
+        before ? *before : LabelPoint{x, middle(wholeUnits(row, "boundlowy"), wholeUnits(row, "bounduppy"))};
+    const std::int32_t centre = wholeUnits(row, "CenterY");
+    return distance(targetY, centre) < distance(targetY, start.y) ? LabelPoint{x, centre} : start;
 }
 
 } // namespace
@@ -23,25 +35,20 @@ std::int32_t middleAcross(const Recordset& rows) {
 long ModData_CheckLabelCoords(const std::string& GroupName, const std::string& ShapeTable, std::int32_t TargetY,
                               std::int32_t& LabelY, std::int32_t& LabelX, std::shared_ptr<Recordset>& Recordset) {
     const CurrentProcedure procedure("ModData_CheckLabelCoords");
-    const bool done = onSystemDatabase([&] {
+    const bool opened = onSystemDatabase([&] {
         Recordset = systemDatabase().openRecordset(selectMembers(ShapeTable) + " and groupname = " + quoted(GroupName) +
                                                    "  and reference not in " + std::string(CallAreas) +
                                                    " ORDER BY TblGroup_Link.GroupName");
-        const auto& rows = *Recordset;
-        if (rows.EOF_())
-            return;
-        std::int32_t x = middleAcross(rows);
-        std::int32_t y = middle(wholeUnits(rows, "boundlowy"), wholeUnits(rows, "bounduppy"));
-        for (; !rows.EOF_(); Recordset->MoveNext()) {
-            const std::int32_t centre = wholeUnits(rows, "CenterY");
-            if (distance(TargetY, centre) < distance(TargetY, y)) {
-                y = centre;
-                x = middleAcross(rows);
-            }
-        }
-        LabelX = x;
-        LabelY = y;
     });
+    if (!opened)
+        return -1;
+    std::optional<LabelPoint> label;
+    for (; !Recordset->EOF_(); Recordset->MoveNext())
+        logAndGoOn([&] { label = withMember(label, *Recordset, TargetY); }); // a member without a place does not count
     Recordset.reset();
-    return done ? 0 : -1;
+    if (label) {
+        LabelX = label->x;
+        LabelY = label->y;
+    }
+    return 0;
 }

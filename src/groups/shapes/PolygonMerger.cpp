@@ -60,7 +60,9 @@ public:
     }
 
 private:
-    void complain(const std::string& which, const std::string& why) {
+    void complain(const std::string& which, std::string why) {
+        if (why.ends_with('.'))
+            why.pop_back();
         complaints_ += (complaints_.empty() ? "" : " ") + ("The " + which) + " polygon is left out: " + why + ".";
     }
 
