@@ -1,5 +1,7 @@
 #include "ui/ElidedLabel.h"
 
+#include "ui/ElidedText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -17,7 +19,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
     painter.drawText(contentsRect(), static_cast<int>(alignment()),
-                     fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+                     elidedText(fontMetrics(), text(), contentsRect().width()));
 }
 
 void ElidedLabel::resizeEvent(QResizeEvent* event) {

@@ -3,28 +3,30 @@
 #include "ui/ElidedLabel.h"
 #include "ui/Skin.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QPainter>
 
 namespace {
 
-constexpr int pictureSide = 40;
 constexpr int accentHeight = 3;
 
 } // namespace
 
 uctHeader::uctHeader(QWidget* parent)
-    : QWidget(parent), picture_(new QLabel(this)), title_(new QLabel(this)), slogan_(new QLabel(this)),
+    : QWidget(parent), picture_(new QLabel(this)), title_(new ElidedLabel(this)), slogan_(new QLabel(this)),
       detail_(new ElidedLabel(this)) {
     title_->setObjectName(QStringLiteral("lblTitle"));
-    title_->setProperty("role", "title");
     slogan_->setText(tr("Every Call In Its Place"));
     slogan_->setProperty("role", "caption");
-    picture_->setFixedSize(pictureSide, pictureSide);
     detail_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     detail_->setProperty("role", "detail");
+    arrange();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    Refresh();
+}
 
+void uctHeader::arrange() {
     auto* texts = new QVBoxLayout;
     texts->setSpacing(0);
     texts->addStretch();
@@ -33,13 +35,33 @@ uctHeader::uctHeader(QWidget* parent)
     texts->addStretch();
 
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 24, 8 + accentHeight);
     row->setSpacing(12);
     row->addWidget(picture_);
     row->addLayout(texts);
-    row->addSpacing(24);
+    row->addSpacing(12);
     row->addWidget(detail_, 1);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+const StoredProperties& uctHeader::storedProperties() {
+    static const StoredProperties names{{"HeaderType", "HeaderType"}, {"Title", "Title"}, {"Detail", "Detail"}};
+    return names;
+}
+
+void uctHeader::setHeaderType(Style style) {
+    style_ = style;
+    Refresh();
+}
+
+void uctHeader::Refresh() {
+    const bool large = style_ == Style::Window;
+    const int side = large ? 40 : 24;
+    picture_->setFixedSize(side, side);
+    picture_->setPixmap(icon_.isNull() ? QPixmap() : icon_.pixmap(QSize(side, side), devicePixelRatioF()));
+    picture_->setVisible(!icon_.isNull());
+    setRole(*title_, large ? "title" : "section");
+    slogan_->setVisible(large);
+    layout()->setContentsMargins(16, 8, large ? 24 : 16, 8 + accentHeight);
+    update();
 }
 
 QString uctHeader::Title() const {
@@ -59,7 +81,14 @@ void uctHeader::setDetail(const QString& detail) {
 }
 
 void uctHeader::SetPicture(const QIcon& picture) {
-    picture_->setPixmap(picture.pixmap(QSize(pictureSide, pictureSide), devicePixelRatioF()));
+    icon_ = picture;
+    Refresh();
+}
+
+void uctHeader::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange)
+        update();
 }
 
 void uctHeader::paintEvent(QPaintEvent*) {
