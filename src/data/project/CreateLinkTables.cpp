@@ -10,20 +10,13 @@
 
 namespace {
 
-void attach(Database& system, const char* name, const char* source, std::string connect) {
-    TableDef link = system.createTableDef(name);
-    link.sourceTableName = source;
-    link.connect = std::move(connect);
-    system.tableDefs().append(link);
-}
-
 void attachProject(Database& system, const Database& project) {
     for (const char* old : {"TblGIS_Link", "TblTeleItem_Link", "TblGroup_Link"})
         ignoreErrors([&] { system.execute("DROP TABLE " + std::string(old)); });
     system.tableDefs().refresh();
-    attach(system, "TblGIS_Link", "TblMappingGIS", projectLinkConnect(project));
-    attach(system, "TblTeleItem_Link", "TblTeleItem", projectLinkConnect(project));
-    attach(system, "TblGroup_Link", "TblGroups", "MS Access;DATABASE=" + customerGroupsPath());
+    attachTable(system, "TblGIS_Link", "TblMappingGIS", projectLinkConnect(project));
+    attachTable(system, "TblTeleItem_Link", "TblTeleItem", projectLinkConnect(project));
+    attachTable(system, "TblGroup_Link", "TblGroups", customerGroupsConnect());
     system.execute("UPDATE TblGIS_LINK INNER JOIN TblLookup1141 ON TblGIS_Link.[1141] = TblLookup1141.[1141] "
                    "SET TblGIS_Link.Exchange = TblLookup1141.[Exchange]");
 }

@@ -31,6 +31,10 @@ std::string customerGroupsPath() {
     return applicationFile("CustomerGroups.mdb");
 }
 
+std::string customerGroupsConnect() {
+    return "MS Access;DATABASE=" + customerGroupsPath();
+}
+
 void openCustomerGroups() {
     gdbCustomerGroups =
         defaultWorkspace()->openDatabase(customerGroupsPath(), Workspace::Access::Shared, ProjectConnect);
@@ -52,6 +56,13 @@ Database& customerGroupsDatabase() {
     if (!gdbCustomerGroups || !gdbCustomerGroups->isOpen())
         openCustomerGroups();
     return *gdbCustomerGroups;
+}
+
+void attachTable(Database& database, std::string_view link, std::string_view source, std::string connect) {
+    TableDef definition = database.createTableDef(std::string(link));
+    definition.sourceTableName = source;
+    definition.connect = std::move(connect);
+    database.tableDefs().append(definition);
 }
 
 void dropTable(Database& database, std::string_view table) {

@@ -19,8 +19,9 @@ void openCustomerGroups();
 /// Opens comgroups.mdb of the application data folder into gdbCommunityGroups.
 void openCommunityGroups();
 
-/// Full path of CustomerGroups.mdb.
+/// Full path of CustomerGroups.mdb, and the connect string of a link to it.
 std::string customerGroupsPath();
+std::string customerGroupsConnect();
 
 /// The open handles. Throw DatabaseError 3420 (object invalid or no longer set) where there is none or it was closed.
 Database& systemDatabase();
@@ -30,6 +31,9 @@ Database& customerGroupsDatabase();
 
 /// Removes a table, link or working view that may not exist.
 void dropTable(Database& database, std::string_view table);
+
+/// Makes a link to the table `source` of the file that the connect string names.
+void attachTable(Database& database, std::string_view link, std::string_view source, std::string connect);
 
 /// "MS Access;DATABASE=" and the path of the database, with the project password behind it.
 std::string projectLinkConnect(const Database& database);
