@@ -85,6 +85,8 @@ void onCaptureRow(const std::function<void(Recordset& row)>& use) {
 }
 
 bool isCaptured() {
+    if (!has(projectDatabase()) || !has(systemDatabase()))
+        return false;
     const auto project = projectDatabase().openRecordset(everything);
     const auto system = systemDatabase().openRecordset(everything);
     if (project->EOF_() || system->EOF_() || system->value("ProjectName").asText() != capturedProjectName())

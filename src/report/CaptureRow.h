@@ -17,7 +17,7 @@ std::string capturedProjectName();
 void onCaptureRow(const std::function<void(Recordset& row)>& use);
 
 /// Whether the statistics tables hold the figures of the open project: both rows carry the same stamp, and the
-/// system's names the project. Throws DatabaseError where one of the tables is missing.
+/// system's names the project. Not where one of the tables is missing.
 bool isCaptured();
 
 /// Stamps both tables with the open project and the present time, makes them where they are missing, and

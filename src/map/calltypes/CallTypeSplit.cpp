@@ -1,6 +1,5 @@
 #include "map/calltypes/CallTypeSplit.h"
 
-#include "core/ModDeclarations.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "map/Boundaries.h"
@@ -59,10 +58,4 @@ std::optional<CallTypeSplit> callTypeSplit(std::string_view boundaryType, long m
                      {"VOIP", voip, 0xD4BFEC},
                      {"Other", other, 0xFFB7FE}}};
     return split;
-}
-
-bool accountHasGroups() {
-    return countOf(systemDatabase(),
-                   "SELECT COUNT(*) AS RowCount FROM TblGroup_Link WHERE TallyAccount = " + quoted(gsAccount) +
-                       " AND ((GroupName IS NOT NULL) AND (GroupName <> ''))") > 0;
 }

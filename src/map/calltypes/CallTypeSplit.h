@@ -22,6 +22,3 @@ struct CallTypeSplit {
 /// that are not known show the TV regions'. Nothing where there is nothing to divide. Reads gdbSystem; throws
 /// DatabaseError. Main thread.
 std::optional<CallTypeSplit> callTypeSplit(std::string_view boundaryType, long mapType);
-
-/// Whether any area of the project's account is in a customer group. Reads gdbSystem; throws DatabaseError.
-bool accountHasGroups();
