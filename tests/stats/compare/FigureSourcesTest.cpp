@@ -1,0 +1,70 @@
+#include "core/LogAndGoOn.h"
+#include "stats/FigureEngine.h"
+#include "tests/stats/compare/LeftBehind.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+namespace {
+
+struct EngineGuard {
+    ~EngineGuard() { setFigureEngine(FigureEngine::Automatic); }
+};
+
+/// What every run leaves behind, by one engine; the project is afterwards as it was.
+struct Sequence {
+    std::vector<std::vector<TableRows>> left;
+    std::vector<std::string> texts; ///< of the runs
+    std::vector<std::string> log, prompts;
+};
+
+Sequence performAll(RandomInstallation& installation, const std::vector<RandomRun>& runs, FigureEngine engine) {
+    const WorkspaceTransaction undone(*defaultWorkspace());
+    Sequence sequence;
+    const std::size_t logged = installation.logLines().size();
+    installation.prompts.texts.clear();
+    for (const RandomRun& run : runs) {
+        // What no statement can be made of is nothing to a scan either; the statements log it in their words.
+        setFigureEngine(engine == FigureEngine::Scan && !canBeRead(run) ? FigureEngine::Automatic : engine);
+        if (run.callBefore)
+            storeCall(*run.callBefore);
+        perform(run);
+        sequence.left.push_back(leftBehind(run));
+        sequence.texts.push_back(run.text());
+    }
+    sequence.log = installation.logLines();
+    sequence.log.erase(sequence.log.begin(), sequence.log.begin() + static_cast<std::ptrdiff_t>(logged));
+    sequence.prompts = installation.prompts.texts;
+    return sequence;
+}
+
+/// Seeds from 1 on, or the one that CALLSCOPE_FIGURES_SEED names.
+std::vector<unsigned> seeds(unsigned count) {
+    if (const char* one = std::getenv("CALLSCOPE_FIGURES_SEED"))
+        return {static_cast<unsigned>(std::atoi(one))};
+    std::vector<unsigned> all;
+    for (unsigned seed = 1; seed <= count; ++seed)
+        all.push_back(seed);
+    return all;
+}
+
+TEST(FigureSources, FillTheSameTablesOnRandomProjects) {
+    const EngineGuard guard;
+    for (const unsigned seed : seeds(16)) {
+        Random random(seed);
+        const ProjectContent content = makeProjectContent(random);
+        const std::vector<RandomRun> runs = makeRuns(random);
+        RandomInstallation installation(content);
+        const WorkspaceTransaction neverWritten(*defaultWorkspace()); // nothing of it needs the disk
+        const Sequence stated = performAll(installation, runs, FigureEngine::Statements);
+        const Sequence scanned = performAll(installation, runs, FigureEngine::Scan);
+        const std::string again = "seed " + std::to_string(seed) + ", run ";
+        for (std::size_t i = 0; i < runs.size(); ++i)
+            ASSERT_EQ(firstDifference(scanned.left[i], stated.left[i]), "") << again << i << ": " << stated.texts[i];
+        EXPECT_EQ(scanned.log, stated.log) << again;
+        EXPECT_EQ(scanned.prompts, stated.prompts) << again;
+    }
+}
+
+} // namespace
