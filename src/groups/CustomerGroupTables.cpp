@@ -1,9 +1,9 @@
 #include "groups/CustomerGroupTables.h"
 
+#include "core/CurrentProcedure.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/schema/Vocabulary.h"
-#include "stats/CurrentProcedure.h"
 
 void FrmMain_CreateCustomerGroupDBPolygonTables() {
     const CurrentProcedure procedure("FrmMain_CreateCustomerGroupDBPolygonTables");

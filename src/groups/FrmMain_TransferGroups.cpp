@@ -1,12 +1,12 @@
 #include "groups/FrmMain_TransferGroups.h"
 
+#include "core/CurrentProcedure.h"
 #include "core/LogAndGoOn.h"
 #include "data/engine/Workspace.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "groups/CustomerGroupTables.h"
 #include "groups/GroupLinks.h"
-#include "stats/CurrentProcedure.h"
 
 namespace {
 
