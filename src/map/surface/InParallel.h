@@ -1,19 +1,9 @@
 #pragma once
 
-#include <future>
-#include <system_error>
+#include <cstddef>
+#include <functional>
 
-/// Runs two pieces of work that share nothing they change, one of them on a second thread, and waits for both. Where
-/// there is no second thread to be had, one after the other.
-template<typename First, typename Second>
-void inParallel(First first, Second second) {
-    std::future<void> beside;
-    try {
-        beside = std::async(std::launch::async, second);
-    } catch (const std::system_error&) {
-        second();
-    }
-    first();
-    if (beside.valid())
-        beside.get();
-}
+/// Calls work(0) to work(pieces - 1), which share nothing they change, on this thread and a second one, and returns
+/// when all are done. Each thread takes the next piece when it is free, so that a second thread that comes late or
+/// never costs nothing. The first exception of a piece is thrown on.
+void inParallel(std::size_t pieces, std::function<void(std::size_t)> work);

@@ -16,6 +16,10 @@ namespace {
 constexpr long InvalidPropertyValue = 380;
 constexpr long InvalidProcedureCall = 5;
 
+/// Zooming by hand ends at half a kilometre across, and when the whole map fills half the view.
+constexpr double NearestByHand = 50.0;
+constexpr double FarthestByHand = 2.0;
+
 std::size_t checkedIndex(int index, std::size_t count, const char* property) {
     if (index < 0 || static_cast<std::size_t>(index) >= count)
         throw RuntimeError(InvalidPropertyValue, std::string("Invalid property value: ") + property + " " +
@@ -211,6 +215,25 @@ void MapSurface::PanBy(QPoint pixels) {
         return;
     const Camera before = std::exchange(drawn_.camera, camera_);
     picture_ = painter_.paintMoved(picture_, before, drawn_, style);
+}
+
+void MapSurface::ZoomBy(double factor, QPointF aboutPixel) {
+    if (!(factor > 0.0))
+        return;
+    // A view beyond the bounds, which the logic may set, is not moved back by a zoom that goes the other way.
+    const double farthest = std::max(whole_ ? FarthestByHand * wholeCamera_.scale() : Camera::LargestScale, MapScale());
+    const double nearest = std::min(NearestByHand, MapScale());
+    camera_.zoomAbout(aboutPixel, MapScale() / std::clamp(MapScale() / factor, nearest, farthest));
+}
+
+bool MapSurface::needsDraw() const {
+    if (picture_.isNull() || camera_ != drawn_.camera || scene_.layers.size() != drawn_.scene.layers.size())
+        return true;
+    for (std::size_t i = 0; i < scene_.layers.size(); ++i) {
+        if (isDrawnAt(scene_.layers[i], camera_.scale()) != isDrawnAt(drawn_.scene.layers[i], camera_.scale()))
+            return true;
+    }
+    return false;
 }
 
 LayerContent MapSurface::contentOf(std::size_t index) {

@@ -102,6 +102,11 @@ public:
     /// Moves the view by device pixels and takes the picture along, between two draws: only what comes into view is
     /// drawn. Tells no events.
     void PanBy(QPoint pixels);
+    /// Zooms in by a factor (out below 1) about a device pixel, within what a person can make sense of.
+    void ZoomBy(double factor, QPointF aboutPixel);
+    /// Whether the next draw would show another view or other layers than the picture does. Their contents do not
+    /// count.
+    bool needsDraw() const;
 
     const GeometryCache& geometry() const { return geometry_; }
 

@@ -5,7 +5,7 @@
 
 /// The tools of the mouse, and what a button of the tool bar reports. A number without a name is a tool that does
 /// nothing.
-enum class MapTool : long {
+enum class MapTool : int {
     Pan = 0,
     ZoomIn = 2,
     ZoomOut = 3,

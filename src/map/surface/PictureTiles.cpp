@@ -11,38 +11,47 @@ namespace {
 /// Device pixels. A pen wider than one leaves the painter's quick way and makes a map of fine screens take a second and
 /// more.
 constexpr double OutlineWidth = 1.0;
-/// Below this a second thread costs more than it saves.
-constexpr qsizetype FewestCornersToShare = 5000;
+/// Corners in a tile that are worth its overhead, and the most tiles of a picture.
+constexpr qsizetype CornersATile = 20000;
+constexpr std::size_t MostTiles = 4;
 
-/// The row that parts the work for the corners of the fills into halves.
-int balancedRow(const QRect& area, const std::vector<PathFill>& fills) {
-    constexpr std::size_t slices = 128;
+/// Cuts an area into strips one below the other that have much the same number of corners to draw.
+std::vector<QRect> balancedTiles(const QRect& area, const std::vector<PathFill>& fills) {
+    constexpr std::size_t slices = 256;
     std::array<qsizetype, slices> corners{};
     qsizetype all = 0;
     for (const PathFill& fill : fills) {
-        const double share = (fill.box.center().y() - area.top()) / area.height();
-        const double slice = std::clamp(share * slices, 0.0, static_cast<double>(slices - 1));
-        corners[static_cast<std::size_t>(slice)] += fill.path->elementCount();
+        const double slice = (fill.box.center().y() - area.top()) / area.height() * slices;
+        corners[static_cast<std::size_t>(std::clamp(slice, 0.0, slices - 1.0))] += fill.path->elementCount();
         all += fill.path->elementCount();
     }
-    if (all < FewestCornersToShare)
-        return area.bottom() + 1;
-    std::size_t slice = 0;
-    for (qsizetype above = 0; slice < slices && 2 * above < all; ++slice)
+    const qsizetype tiles = std::clamp<qsizetype>(all / CornersATile, 1, MostTiles);
+    std::vector<QRect> result;
+    int top = area.top();
+    qsizetype above = 0;
+    for (std::size_t slice = 0; slice < slices; ++slice) {
         above += corners[slice];
-    return area.top() + static_cast<int>(static_cast<std::size_t>(area.height()) * slice / slices);
+        const int row = area.top() + static_cast<int>(static_cast<std::size_t>(area.height()) * (slice + 1) / slices);
+        const bool last = slice + 1 == slices;
+        if (row > top && (last || above * tiles >= all * static_cast<qsizetype>(result.size() + 1))) {
+            result.emplace_back(QPoint(area.left(), top), QPoint(area.right(), row - 1));
+            top = row;
+        }
+    }
+    return result;
 }
 
-/// The fills that reach into a part, with copies of the paths that another thread draws as well: a path keeps notes
-/// about itself while it is drawn.
+/// The fills that reach into a tile. A path keeps notes about itself while it is drawn, so a tile has copies of those
+/// that reach into the tile above as well.
 class TileWork {
 public:
-    TileWork(const QRect& tile, const std::vector<PathFill>& fills, const QRect* sharedWith) : tile_(tile) {
+    TileWork(QImage part, const QRect& tile, const QRect& area, const std::vector<PathFill>& fills)
+        : part_(std::move(part)), tile_(tile) {
         for (const PathFill& fill : fills) {
             if (!fill.box.intersects(tile))
                 continue;
             fills_.push_back(fill);
-            if (sharedWith == nullptr || !fill.box.intersects(*sharedWith))
+            if (tile.top() == area.top() || fill.box.top() > tile.top())
                 continue;
             copies_.emplace_back().setFillRule(fill.path->fillRule());
             copies_.back().addPath(*fill.path);
@@ -50,9 +59,8 @@ public:
         }
     }
 
-    /// `part` is the tile's part of the picture.
-    void paint(QImage& part, const QPointF& offset) const {
-        QPainter painter(&part);
+    void paint(const QPointF& offset) {
+        QPainter painter(&part_);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.translate(offset - QPointF(tile_.topLeft()));
         QPen pen(Qt::black, OutlineWidth);
@@ -66,6 +74,7 @@ public:
     }
 
 private:
+    QImage part_; // of the picture
     QRect tile_;
     std::vector<PathFill> fills_;
     std::deque<QPainterPath> copies_;
@@ -79,14 +88,10 @@ QImage partOf(QImage& picture, const QRect& area) {
 }
 
 void paintFills(QImage& picture, const QRect& area, const std::vector<PathFill>& fills, const QPointF& offset) {
-    const int row = balancedRow(area, fills);
-    const QRect upper(area.topLeft(), QPoint(area.right(), row - 1));
-    const QRect lower(QPoint(area.left(), row), area.bottomRight());
-    const TileWork first(upper, fills, nullptr);
-    QImage firstPart = partOf(picture, upper);
-    if (lower.isEmpty())
-        return first.paint(firstPart, offset);
-    const TileWork second(lower, fills, &upper);
-    QImage secondPart = partOf(picture, lower);
-    inParallel([&] { first.paint(firstPart, offset); }, [&] { second.paint(secondPart, offset); });
+    const std::vector<QRect> tiles = balancedTiles(area, fills);
+    std::vector<TileWork> work;
+    work.reserve(tiles.size()); // its copies must not move
+    for (const QRect& tile : tiles)
+        work.emplace_back(partOf(picture, tile), tile, area, fills);
+    inParallel(work.size(), [&](std::size_t i) { work[i].paint(offset); });
 }

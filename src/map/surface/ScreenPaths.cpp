@@ -4,6 +4,7 @@
 
 #include <QPolygonF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -13,6 +14,8 @@ namespace {
 constexpr double Reach = 2048.0;
 constexpr double ClipMargin = 16.0;
 constexpr int FewestCorners = 3;
+/// That one thread makes before it looks for more.
+constexpr std::size_t PathsAPiece = 64;
 
 /// Keeps the side of a line on which `inside` holds. `crossing` is the point of an edge on the line.
 template<typename Inside, typename Crossing>
@@ -134,11 +137,12 @@ void ScreenPaths::prepare(const std::shared_ptr<const ShapeTable>& table, const 
             missing.push_back(shape);
         }
     }
-    const auto makeEverySecond = [&](std::size_t first) {
-        for (std::size_t i = first; i < missing.size(); i += 2)
+    const std::size_t pieces = (missing.size() + PathsAPiece - 1) / PathsAPiece;
+    inParallel(pieces, [&](std::size_t piece) {
+        const std::size_t end = std::min(missing.size(), (piece + 1) * PathsAPiece);
+        for (std::size_t i = piece * PathsAPiece; i < end; ++i)
             kept.paths[missing[i]] = make(table->shapes()[missing[i]]);
-    };
-    inParallel([&] { makeEverySecond(0); }, [&] { makeEverySecond(1); });
+    });
 }
 
 const QPainterPath& ScreenPaths::path(const ShapeTable& table, std::size_t shape) const {
