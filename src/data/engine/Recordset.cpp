@@ -161,6 +161,7 @@ void Recordset::Requery() {
 }
 void Recordset::Close() {
     impl_->requireOpen();
+    impl_->forgetChange();
     impl_->file.reset();
     impl_->edited.reset();
     impl_->cells = {};

@@ -9,7 +9,20 @@
 #include <algorithm>
 
 Recordset::Impl::Impl(std::shared_ptr<AttachedFile> attachedFile, jet::Program translated)
-    : file(std::move(attachedFile)), program(std::move(translated)) {}
+    : file(std::move(attachedFile)), program(std::move(translated)) {
+    if (program.updatable)
+        findTableFields();
+}
+
+void Recordset::Impl::findTableFields() {
+    const std::vector<Field>& fields = program.updatable->columns;
+    for (const jet::ResultColumn& shown : program.columns) {
+        const auto field = std::find_if(fields.begin(), fields.end(), [&](const Field& candidate) {
+            return !shown.sourceColumn.empty() && equalText(candidate.name, shown.sourceColumn);
+        });
+        tableFields_.push_back(field == fields.end() ? -1 : static_cast<int>(field - fields.begin()));
+    }
+}
 
 void Recordset::Impl::query() {
     const bool withRowid = program.updatable.has_value();
@@ -74,12 +87,10 @@ const Value& Recordset::Impl::cell(long row, int column) const {
 }
 
 const Field& Recordset::Impl::tableField(int column) const {
-    const jet::ResultColumn& shown = program.columns[static_cast<std::size_t>(column)];
-    for (const Field& field : program.updatable->columns) {
-        if (!shown.sourceColumn.empty() && equalText(field.name, shown.sourceColumn))
-            return field;
-    }
-    throw DatabaseError(3164, "The field '" + shown.name + "' cannot be changed");
+    const auto at = static_cast<std::size_t>(column);
+    if (tableFields_[at] < 0)
+        throw DatabaseError(3164, "The field '" + program.columns[at].name + "' cannot be changed");
+    return program.updatable->columns[static_cast<std::size_t>(tableFields_[at])];
 }
 
 void Recordset::Impl::search(std::string_view expression, long from, Direction direction) {
@@ -202,14 +213,35 @@ void Recordset::Impl::beginNew() {
     editing = Editing::New;
 }
 
+sqlite::Statement& Recordset::Impl::changing(const std::string& sql) {
+    if (change_ && changeText_ == sql) {
+        file->connection().refuseWhereTransactionLost();
+        return *change_;
+    }
+    change_.reset();
+    change_.emplace(file->connection(), sql);
+    changeText_ = sql;
+    return *change_;
+}
+
+void Recordset::Impl::run(sqlite::Statement& statement) {
+    try {
+        statement.step();
+    } catch (...) {
+        statement.reset();
+        throw;
+    }
+    statement.reset();
+}
+
 void Recordset::Impl::writeExisting() {
     const std::string assignments = touchedColumns(" = ?");
     if (assignments.empty())
         return;
-    sqlite::Statement update(file->connection(),
-                             "UPDATE " + tableName() + " SET " + assignments + " WHERE " + rowName() + " = ?");
+    sqlite::Statement& update =
+        changing("UPDATE " + tableName() + " SET " + assignments + " WHERE " + rowName() + " = ?");
     update.bind(bindTouched(update), rowids[static_cast<std::size_t>(cursor)]);
-    update.step();
+    run(update);
     if (file->connection().changes() == 0)
         throw DatabaseError(3167, "The record has been deleted");
     for (auto& [column, keys] : keys_) {
@@ -227,11 +259,11 @@ void Recordset::Impl::writeNew() {
     std::string places;
     for (const bool isSet : touched)
         places += !isSet ? "" : places.empty() ? "?" : ", ?";
-    sqlite::Statement insert(file->connection(), "INSERT INTO " + tableName() +
-                                                     (names.empty() ? std::string(" DEFAULT VALUES")
-                                                                    : " (" + names + ") VALUES (" + places + ")"));
+    sqlite::Statement& insert =
+        changing("INSERT INTO " + tableName() +
+                 (names.empty() ? std::string(" DEFAULT VALUES") : " (" + names + ") VALUES (" + places + ")"));
     bindTouched(insert);
-    insert.step();
+    run(insert);
     const std::int64_t rowid = file->connection().lastInsertRowid();
     readDefaults(rowid);
     rowids.push_back(rowid);

@@ -54,8 +54,17 @@ public:
     void writeExisting();
     void writeNew();
     void removeRow();
+    /// Lets go of the statement that is kept for the next row.
+    void forgetChange() { change_.reset(); }
 
 private:
+    /// Of each column of the rows the position of the table's column behind it; -1 for none.
+    void findTableFields();
+    /// The statement ready for its values: the one of the last row where it is the same, as it mostly is.
+    sqlite::Statement& changing(const std::string& sql);
+    /// Runs it to its end and lets go of the file.
+    static void run(sqlite::Statement& statement);
+
     /// "schema"."table" and the name of its row number; of editable rows.
     std::string tableName() const;
     std::string rowName() const;
@@ -79,6 +88,9 @@ private:
     /// Columns by their values, made by the first search for a key and kept true by edits; nothing for a column that
     /// holds values of another kind than its own.
     std::map<int, std::optional<KeyIndex>> keys_;
+    std::vector<int> tableFields_;
+    std::optional<sqlite::Statement> change_;
+    std::string changeText_;
     /// The last search that was no search for a key; FindNext repeats the expression of FindFirst.
     std::optional<jet::Search> test_;
     std::string testText_;
