@@ -1,6 +1,5 @@
 #include "map/surface/MapPainter.h"
 
-#include "map/surface/LabelPainter.h"
 #include "map/surface/PictureTiles.h"
 
 #include <QPainter>
@@ -13,7 +12,6 @@ namespace {
 
 // Interface pixels.
 constexpr double PointRadius = 2.5;
-constexpr double LabelGap = 2.0;
 /// An area of this size and above has its outline in full; below the outline fades into the area's own colour, or a
 /// town of small areas would be nothing but outlines.
 constexpr double FullOutlineSize = 28.0;
@@ -75,17 +73,8 @@ QImage MapPainter::paint(const DrawnMap& map, const MapStyle& style) {
     paths_.begin(frame_);
     QImage picture(frame_.size, QImage::Format_RGB32);
     picture.fill(style.sea);
-    LabelPlacement placement(QRectF(QPointF(0, 0), QSizeF(frame_.size)), LabelGap * style.devicePixelRatio);
-    for (std::size_t i = 0; i < map.contents.size(); ++i) {
-        const LayerContent* content = map.inPicture(i);
-        if (content == nullptr)
-            continue;
-        const Layer& layer = map.scene.layers[i];
-        paintShapes(picture, picture.rect(), layer, *content, map.camera, style);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        paintLabels(painter, layer, *content, map.camera, style, placement);
-    }
+    labels_.place(map, frame_, style);
+    paintLayers(picture, picture.rect(), map, style);
     return picture;
 }
 
@@ -100,14 +89,21 @@ QImage MapPainter::paintMoved(const QImage& picture, const Camera& from, const D
     const QPoint shift = moved.toPoint();
     QImage result(frame_.size, QImage::Format_RGB32);
     copyMoved(picture, result, shift);
+    labels_.place(map, frame_, style);
     for (const QRect& strip : QRegion(result.rect()).subtracted(result.rect().translated(shift))) {
         partOf(result, strip).fill(style.sea);
-        for (std::size_t i = 0; i < map.contents.size(); ++i) {
-            if (const LayerContent* content = map.inPicture(i))
-                paintShapes(result, strip, map.scene.layers[i], *content, map.camera, style);
-        }
+        paintLayers(result, strip, map, style);
     }
     return result;
+}
+
+void MapPainter::paintLayers(QImage& picture, const QRect& area, const DrawnMap& map, const MapStyle& style) {
+    for (std::size_t i = 0; i < map.contents.size(); ++i) {
+        if (const LayerContent* content = map.inPicture(i)) {
+            paintShapes(picture, area, map.scene.layers[i], *content, map.camera, style);
+            labels_.paint(picture, area, i);
+        }
+    }
 }
 
 void MapPainter::paintShapes(QImage& picture, const QRect& area, const Layer& layer, const LayerContent& content,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "map/surface/LabelPainter.h"
 #include "map/surface/LayerContent.h"
 #include "map/surface/MapStyle.h"
 #include "map/surface/ScreenPaths.h"
@@ -18,15 +19,17 @@ public:
     QImage paint(const DrawnMap& map, const MapStyle& style);
 
     /// The same map where only the view has moved, its scale unchanged: what `picture`, drawn for `from`, shows already
-    /// is taken over and only what has come into view is drawn. Labels move along; new ones wait for paint().
+    /// is taken over and only what has come into view is drawn, labels and all.
     QImage paintMoved(const QImage& picture, const Camera& from, const DrawnMap& map, const MapStyle& style);
 
 private:
     std::vector<PathFill> fillsOf(const Layer& layer, const LayerContent& content, const QRectF& area,
                                   const MapStyle& style);
+    void paintLayers(QImage& picture, const QRect& area, const DrawnMap& map, const MapStyle& style);
     void paintShapes(QImage& picture, const QRect& area, const Layer& layer, const LayerContent& content,
                      const Camera& camera, const MapStyle& style);
 
     PixelFrame frame_{Camera()};
     ScreenPaths paths_;
+    LabelPainter labels_;
 };
