@@ -2,18 +2,53 @@
 
 #include "ui/Globe.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
+#include <QWidget>
 
-QIcon appIcon() {
-    QIcon icon;
-    for (const int side : {16, 20, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(side, side);
+namespace {
+
+constexpr int usualSides[] = {16, 20, 22, 24, 32, 40, 48, 64, 96, 128, 256};
+
+class GlobeIcon : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        painter->save();
+        if (mode == QIcon::Disabled)
+            painter->setOpacity(0.4);
+        paintGlobe(*painter, rect, GlobeStyle::Full);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        paintGlobe(painter, QRectF(0, 0, side, side), GlobeStyle::Full);
-        painter.end();
-        icon.addPixmap(pixmap);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return pixmap;
     }
-    return icon;
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (const int side : usualSides)
+            sizes.append(QSize(side, side));
+        return sizes;
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State) override {
+        const int side = std::min(size.width(), size.height());
+        return {side, side};
+    }
+    QIconEngine* clone() const override { return new GlobeIcon(*this); }
+};
+
+} // namespace
+
+QIcon appIcon() {
+    return QIcon(new GlobeIcon);
+}
+
+void brandWindow(QWidget& window, bool ownerToo) {
+    window.setWindowIcon(appIcon());
+    QWidget* owner = window.parentWidget();
+    if (ownerToo && owner)
+        owner->window()->setWindowIcon(appIcon());
 }

@@ -1,6 +1,9 @@
 #include "ui/MessageBoxPrompts.h"
 
 #include "core/Version.h"
+#include "ui/AppIcon.h"
+#include "ui/WindowProgress.h"
+#include "ui/frmOptions.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -62,5 +65,14 @@ PromptAnswer MessageBoxPrompts::messageBox(const std::string& text, PromptStyle 
     box.setText(QString::fromStdString(text));
     box.setIcon(iconOf(style));
     setButtons(box, buttons);
+    brandWindow(box);
+    const PlainPointer pointer;
     return answerOf(box.exec());
+}
+
+int MessageBoxPrompts::getOption(OptionsMode mode) {
+    frmOptions window(QApplication::activeWindow());
+    window.setMode(mode);
+    const PlainPointer pointer;
+    return window.GetOption();
 }

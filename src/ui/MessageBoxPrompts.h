@@ -2,7 +2,8 @@
 
 #include "core/Prompts.h"
 
-/// Prompts as message boxes over the active window, with the program's title. In force as long as it lives.
+/// Prompts as message boxes over the active window, with the program's title, and as frmOptions. In force as long as it
+/// lives.
 class MessageBoxPrompts : public Prompts {
 public:
     MessageBoxPrompts() { setPrompts(this); }
@@ -11,4 +12,5 @@ public:
     MessageBoxPrompts& operator=(const MessageBoxPrompts&) = delete;
 
     PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) override;
+    int getOption(OptionsMode mode) override;
 };

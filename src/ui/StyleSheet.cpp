@@ -13,6 +13,7 @@ QLabel[role="caption"] { font-size: 9pt; color: <grey5>; }
 QLabel[role="hint"] { color: <grey5>; }
 QLabel[role="detail"] { font-size: 11pt; font-weight: bold; color: <coral6>; }
 QLabel[role="step"] { background: <indigo5>; color: white; border-radius: 12px; font-weight: bold; }
+QLabel[role="message"] { color: <indigo6>; }
 QLabel[role="section"] { font-weight: bold; color: <grey6>; }
 
 QPushButton { background: white; color: <indigo5>; border: 1px solid <indigo2>; border-radius: 6px;

@@ -40,13 +40,12 @@ SignLook lookOf(clsTooltip::Sign sign) {
 } // namespace
 
 TipBalloon::TipBalloon(const clsTooltip& tip, const QRect& thing, int targetX, QWidget* parent)
-    : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint), title_(tip.Title), text_(tip.TipText),
-      sign_(QString::fromUtf8(lookOf(tip.Icon).letter)), signColour_(lookOf(tip.Icon).colour),
+    : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput), title_(tip.Title),
+      text_(tip.TipText), sign_(QString::fromUtf8(lookOf(tip.Icon).letter)), signColour_(lookOf(tip.Icon).colour),
       fore_(tip.ForeColor.isValid() ? tip.ForeColor : toColor(skinColours().Grey(6))),
       back_(tip.BackColor.isValid() ? tip.BackColor : QColor(Qt::white)),
       tail_(tip.Style == clsTooltip::Shape::Balloon ? tailHeight : 0) {
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_TransparentForMouseEvents);
     setAttribute(Qt::WA_ShowWithoutActivating);
     measure();
     place(thing, targetX);

@@ -30,8 +30,8 @@ bool clsTooltip::Create(QWidget* control) {
 }
 
 void clsTooltip::Destroy() {
-    delay_.stop();
-    hide();
+    drop();
+    shownOnce_ = false;
     if (control_)
         control_->removeEventFilter(this);
     control_.clear();
@@ -45,8 +45,18 @@ void clsTooltip::show() {
     const int mouse = std::clamp(QCursor::pos().x(), thing.left(), thing.right());
     balloon_ = new TipBalloon(*this, thing, Centered ? thing.center().x() : mouse, control_);
     balloon_->show();
+    shownOnce_ = true;
     if (VisibleTime > 0)
         visible_.start(VisibleTime);
+}
+
+bool clsTooltip::mouseIsOver() const {
+    return control_ && control_->rect().contains(control_->mapFromGlobal(QCursor::pos()));
+}
+
+void clsTooltip::drop() {
+    delay_.stop();
+    hide();
 }
 
 void clsTooltip::hide() {
@@ -57,15 +67,20 @@ void clsTooltip::hide() {
 bool clsTooltip::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::Enter:
-        delay_.start(std::max(DelayTime, 0));
+        if (!shownOnce_)
+            delay_.start(std::max(DelayTime, 0));
         break;
     case QEvent::Leave:
+        // Windows that come and go over the control make the mouse seem to leave and come back.
+        shownOnce_ = shownOnce_ && mouseIsOver();
+        if (!mouseIsOver())
+            drop();
+        break;
     case QEvent::MouseButtonPress:
     case QEvent::KeyPress:
     case QEvent::Wheel:
     case QEvent::Hide:
-        delay_.stop();
-        hide();
+        drop();
         break;
     case QEvent::ToolTip:
         return true; // one tip at a time

@@ -7,8 +7,9 @@
 
 class QWidget;
 
-/// A tip in a balloon that belongs to one control: it comes when the mouse rests on the control and goes with the
-/// mouse, a click, or after a time. The properties are set before Create; texts changed later show at the next time.
+/// A tip in a balloon that belongs to one control: it comes once when the mouse rests on the control, and goes with the
+/// mouse, a click, a key, or after a time. The properties are set before Create; texts changed later show at the next
+/// time.
 class clsTooltip : public QObject {
     Q_OBJECT
 
@@ -41,10 +42,13 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool mouseIsOver() const;
     void show();
     void hide();
+    void drop(); ///< the tip and the one to come
 
     QPointer<QWidget> control_;
     QPointer<QWidget> balloon_;
     QTimer delay_, visible_;
+    bool shownOnce_ = false; ///< since the mouse came to the control
 };

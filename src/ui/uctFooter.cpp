@@ -94,18 +94,28 @@ void uctFooter::setHelpVisible(bool visible) {
 void uctFooter::RegisterButton(QAbstractButton* button) {
     if (!button || panel_->layout()->indexOf(button) >= 0)
         return;
+    const bool hiddenByWindow = button->testAttribute(Qt::WA_WState_ExplicitShowHide) && button->isHidden();
     panel_->layout()->addWidget(button);
+    button->setVisible(!hiddenByWindow);
     panel_->show();
     CheckButtonWidth();
 }
 
 void uctFooter::EnableButtons(bool enabled) {
-    for (QAbstractButton* button : panel_->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
+    for (QAbstractButton* button : registeredButtons())
         button->setEnabled(enabled);
 }
 
+QList<QAbstractButton*> uctFooter::registeredButtons() const {
+    return panel_->findChildren<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 int uctFooter::ButtonPanelWidth() const {
-    return panel_->isHidden() ? 0 : panel_->layout()->sizeHint().width();
+    int width = 0;
+    for (const QAbstractButton* button : registeredButtons())
+        if (!button->isHidden())
+            width += button->sizeHint().width() + (width > 0 ? gap : 0);
+    return width;
 }
 
 void uctFooter::setDetails(const QStringList& details) {

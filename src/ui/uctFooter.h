@@ -77,6 +77,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    QList<QAbstractButton*> registeredButtons() const;
     void setDetails(const QStringList& details);
 
     DetailList* details_;

@@ -61,6 +61,8 @@ void uctHeader::Refresh() {
     setRole(*title_, large ? "title" : "section");
     slogan_->setVisible(large);
     layout()->setContentsMargins(16, 8, large ? 24 : 16, 8 + accentHeight);
+    layout()->invalidate();
+    layout()->activate();
     update();
 }
 

@@ -1,29 +1,11 @@
 #include "ui/MessageBoxPrompts.h"
+#include "tests/ui/ModalActions.h"
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QMessageBox>
-#include <QTest>
-#include <QTimer>
-
-#include <functional>
 
 namespace {
-
-/// Lets `act` work on the message box that comes up next.
-void onNextBox(std::function<void(QMessageBox&)> act) {
-    QTimer::singleShot(0, qApp, [act = std::move(act)] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(box);
-        act(*box);
-    });
-}
-
-void press(QMessageBox& box, Qt::Key key) {
-    QWidget* focus = box.focusWidget();
-    QTest::keyClick(focus ? focus : &box, key);
-}
 
 TEST(MessageBoxPrompts, CarryTitleTextAndIcon) {
     struct Case {
@@ -37,13 +19,13 @@ TEST(MessageBoxPrompts, CarryTitleTextAndIcon) {
     const MessageBoxPrompts messageBoxes;
     for (const Case& c : cases) {
         bool seen = false;
-        onNextBox([&](QMessageBox& box) {
+        onNextModal<QMessageBox>([&](QMessageBox& box) {
             seen = true;
             EXPECT_EQ(box.windowTitle(), "Callscope Mapping");
             EXPECT_EQ(box.text(), "2 < 3 & <b>not bold</b>");
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_EQ(box.icon(), c.icon);
-            press(box, Qt::Key_Return);
+            pressKey(box, Qt::Key_Return);
         });
         showMessage("2 < 3 & <b>not bold</b>", c.style);
         EXPECT_TRUE(seen);
@@ -65,9 +47,22 @@ TEST(MessageBoxPrompts, AnswerByReturnAndEscape) {
                           {"yes or no, Escape", PromptButtons::YesNo, Qt::Key_Escape, PromptAnswer::No}};
     MessageBoxPrompts messageBoxes;
     for (const Case& c : cases) {
-        onNextBox([&](QMessageBox& box) { press(box, c.key); });
+        onNextModal<QMessageBox>([&](QMessageBox& box) { pressKey(box, c.key); });
         EXPECT_EQ(messageBoxes.messageBox("Really?", PromptStyle::Question, c.buttons), c.answer) << c.name;
     }
+}
+
+TEST(MessageBoxPrompts, ShowThePlainPointerInTheMidstOfWork) {
+    MessageBoxPrompts messageBoxes;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    onNextModal<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        pressKey(box, Qt::Key_Return);
+    });
+    showMessage("Really?");
+    ASSERT_TRUE(QApplication::overrideCursor());
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    QApplication::restoreOverrideCursor();
 }
 
 } // namespace

@@ -1,0 +1,111 @@
+#include "ui/FrmMessage.h"
+#include "tests/ui/ModalActions.h"
+#include "ui/WindowProgress.h"
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QProgressBar>
+
+#include <stdexcept>
+
+namespace {
+
+QString taskOf(const FrmMessage& window) {
+    return window.findChild<QLabel*>("lblTask")->text();
+}
+
+TEST(FrmMessageWindow, ShowsTheProgressOfItsWorkAndClosesItself) {
+    WindowProgress progressOnScreen;
+    progress().setTask("too early");
+    bool worked = false;
+    FrmMessage* place = nullptr;
+    FrmMessage window([&] {
+        worked = true;
+        EXPECT_EQ(FrmMessage::shown(), place);
+        EXPECT_TRUE(place->isVisible());
+        EXPECT_TRUE(place->Prog1()->isVisible());
+        EXPECT_EQ(place->findChild<QLabel*>("Label1")->font().pointSize(), 16);
+        progress().setTask("Updating TV Areas...");
+        progress().setMessageBar(13, 4);
+        progress().yield();
+        EXPECT_EQ(taskOf(*place), "Updating TV Areas...");
+        EXPECT_EQ(place->Prog1()->maximum(), 13);
+        EXPECT_EQ(place->Prog1()->value(), 4);
+        QTest::keyClick(place, Qt::Key_Escape);
+        place->close();
+        EXPECT_TRUE(place->isVisible()) << "the user cannot close it";
+    });
+    place = &window;
+    onNextModal<FrmMessage>([&](FrmMessage& shown) {
+        EXPECT_FALSE(worked) << "the window comes up first";
+        EXPECT_FALSE(shown.Prog1()->isVisible());
+        EXPECT_EQ(taskOf(shown), "");
+        QTest::keyClick(&shown, Qt::Key_Escape);
+        EXPECT_TRUE(shown.isVisible());
+    });
+    window.run();
+    EXPECT_TRUE(worked);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(FrmMessage::shown(), nullptr);
+    progress().setTask("too late"); // goes nowhere
+}
+
+TEST(FrmMessageWindow, ThrowsWhatItsWorkThrew) {
+    FrmMessage window([] { throw std::runtime_error("no such table"); });
+    EXPECT_THROW(window.run(), std::runtime_error);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(FrmMessage::shown(), nullptr);
+}
+
+TEST(WindowProgress, ShowsReportsOnTheirBar) {
+    QLabel text;
+    QProgressBar bar;
+    WindowProgress progressOnScreen;
+    progress().setReportBar(true, 5, 1); // nowhere yet
+    progressOnScreen.showReportOn(&text, &bar);
+    progress().setReportBar(true, 5, 3);
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.maximum(), 5);
+    EXPECT_EQ(bar.value(), 3);
+    progress().setReportBar(true, 0, 9);
+    EXPECT_EQ(bar.maximum(), 1) << "not an endless bar";
+    progress().setReportBar(false, 5, 5);
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_FALSE(bar.isVisible());
+}
+
+TEST(WindowProgress, TakesTheHourglassAwayWhenAllHave) {
+    {
+        WindowProgress progressOnScreen;
+        progress().setHourglass(false);
+        EXPECT_FALSE(QApplication::overrideCursor());
+        {
+            const Hourglass outer;
+            {
+                const Hourglass inner;
+                ASSERT_TRUE(QApplication::overrideCursor());
+                EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+            }
+            EXPECT_TRUE(QApplication::overrideCursor());
+        }
+        EXPECT_FALSE(QApplication::overrideCursor());
+        progress().setHourglass(true);
+    }
+    EXPECT_FALSE(QApplication::overrideCursor()) << "nothing stays behind";
+}
+
+TEST(WindowProgress, YieldsToInputThatFindsItsWindowDisabled) {
+    WindowProgress progressOnScreen;
+    QWidget window;
+    window.show();
+    window.setEnabled(false);
+    bool timerRan = false;
+    QTimer::singleShot(0, &window, [&] { timerRan = true; });
+    progress().setTask("now");
+    progress().yield();
+    EXPECT_TRUE(timerRan);
+}
+
+} // namespace
