@@ -1,73 +1,80 @@
 #include "map/surface/LabelPainter.h"
 
-#include <QFontMetricsF>
-#include <QPainter>
-#include <QStringList>
+#include "map/surface/PictureTiles.h"
 
-#include <algorithm>
-#include <array>
-#include <vector>
+#include <QPainter>
+
+#include <cmath>
 
 namespace {
 
-constexpr double PixelsPerPoint = 96.0 / 72.0;
-constexpr double MostPoints = 200.0;
-constexpr double HaloReach = 1.4; ///< interface pixels by which the rim stands out
-
-/// The text itself is far cheaper to draw nine times than its outline is to widen once.
-constexpr std::array HaloDirections{QPointF(-0.7, -0.7), QPointF(0, -1),     QPointF(0.7, -0.7), QPointF(-1, 0),
-                                    QPointF(1, 0),       QPointF(-0.7, 0.7), QPointF(0, 1),      QPointF(0.7, 0.7)};
-
-void paintLabel(QPainter& painter, const QString& text, const QPointF& baseline, const QColor& colour,
-                const MapStyle& style) {
-    painter.setPen(style.halo);
-    for (const QPointF& direction : HaloDirections)
-        painter.drawText(baseline + direction * (HaloReach * style.devicePixelRatio), text);
-    painter.setPen(colour);
-    painter.drawText(baseline, text);
-}
+constexpr double LabelGap = 2.0; ///< interface pixels between two labels
+constexpr std::size_t MostFaces = 64;
 
 } // namespace
 
-QFont labelFont(const LabelFont& font, double devicePixelRatio) {
-    // The second name of a pair has the widths of the first and is what free systems have in its place.
-    QStringList families{QString::fromStdString(font.family)};
-    if (equalText(font.family, "Calibri"))
-        families << "Carlito";
-    families << "Arial"
-             << "Liberation Sans"
-             << "DejaVu Sans";
-    QFont result;
-    result.setFamilies(families);
-    result.setPixelSize(
-        std::max(1, qRound(std::clamp(font.size, 1.0, MostPoints) * PixelsPerPoint * devicePixelRatio)));
-    return result;
+void LabelPainter::place(const DrawnMap& map, const PixelFrame& frame, const MapStyle& style) {
+    frame_ = frame;
+    layers_.assign(map.contents.size(), {});
+    if (faces_.size() > MostFaces)
+        faces_.clear();
+    LabelPlacement placement(LabelGap * style.devicePixelRatio);
+    for (std::size_t i = 0; i < map.contents.size(); ++i) {
+        if (const LayerContent* content = map.inPicture(i))
+            placeLayer(map.scene.layers[i], *content, style, placement, layers_[i]);
+    }
 }
 
-void paintLabels(QPainter& painter, const Layer& layer, const LayerContent& content, const Camera& camera,
-                 const MapStyle& style, LabelPlacement& placement) {
-    std::vector<QFont> fonts;
-    std::vector<QFontMetricsF> metrics;
-    for (const Symbol& symbol : layer.symbols) {
-        fonts.push_back(labelFont(symbol.SymbolLabelFont, style.devicePixelRatio));
-        metrics.emplace_back(fonts.back());
-    }
+void LabelPainter::placeLayer(const Layer& layer, const LayerContent& content, const MapStyle& style,
+                              LabelPlacement& placement, std::vector<Label>& labels) {
+    std::vector<LabelFace*> faces; // beside the symbols; null: has no labels
+    for (const Symbol& symbol : layer.symbols)
+        faces.push_back(symbol.SymbolEnableLabels ? &faceOf(symbol, style) : nullptr);
     for (const DrawnShape& drawn : content.shapes) {
-        const Symbol& symbol = layer.symbols[drawn.symbol];
-        if (!symbol.SymbolEnableLabels || drawn.label.empty())
+        LabelFace* face = faces[drawn.symbol];
+        if (face == nullptr || drawn.label.empty())
             continue;
-        const QPointF anchor = camera.mapToScreen(content.table->shapes()[drawn.shape].anchor);
-        if (!placement.isInView(anchor))
+        const Symbol& symbol = layer.symbols[drawn.symbol];
+        const QPointF anchor = content.table->shapes()[drawn.shape].anchor * frame_.pixelsPerUnit;
+        if (!std::isfinite(anchor.x()) || !std::isfinite(anchor.y()))
             continue;
         const QString text = QString::fromStdString(drawn.label);
-        const QFontMetricsF& size = metrics[drawn.symbol];
-        const auto box =
-            placement.place(QSizeF(size.horizontalAdvance(text), size.height()), anchor,
-                            symbol.SymbolLabelJustification, symbol.SymbolLabelBaseline, layer.LayerCheckForOverlap);
-        if (!box)
-            continue;
-        painter.setFont(fonts[drawn.symbol]);
-        paintLabel(painter, text, box->topLeft() + QPointF(0.0, size.ascent()), colourOf(symbol.SymbolLabelColor),
-                   style);
+        const QSizeF size = face->sizeOf(text);
+        const auto box = placement.place(size, QPointF(anchor.x(), -anchor.y()), symbol.SymbolLabelJustification,
+                                         symbol.SymbolLabelBaseline, layer.LayerCheckForOverlap);
+        if (box)
+            labels.push_back({box->topLeft().toPoint(), size, face, text});
     }
+}
+
+LabelFace& LabelPainter::faceOf(const Symbol& symbol, const MapStyle& style) {
+    const LabelFont& font = symbol.SymbolLabelFont;
+    const std::string key = font.family + '\n' + shortestText(font.size) + '\n' +
+                            std::to_string(symbol.SymbolLabelColor) + '\n' + std::to_string(style.halo.rgba()) + '\n' +
+                            shortestText(style.devicePixelRatio);
+    return faces_.try_emplace(key, font, colourOf(symbol.SymbolLabelColor), style.halo, style.devicePixelRatio)
+        .first->second;
+}
+
+void LabelPainter::paint(QImage& picture, const QRect& area, std::size_t layer) {
+    if (layers_[layer].empty())
+        return;
+    QImage part = partOf(picture, area);
+    QPainter painter(&part);
+    const QPoint origin = frame_.origin.toPoint() + area.topLeft();
+    for (const Label& label : layers_[layer]) {
+        const int rim = label.face->rim();
+        const QPoint place = label.place - origin;
+        const QRect reached(place, label.size.toSize());
+        if (!part.rect().intersects(reached.adjusted(-rim, -rim, rim + 1, rim + 1)))
+            continue;
+        painter.drawImage(place - QPoint(rim, rim), label.face->image(label.text));
+    }
+}
+
+std::vector<QRectF> LabelPainter::boxes(std::size_t layer) const {
+    std::vector<QRectF> boxes;
+    for (const Label& label : layers_[layer])
+        boxes.emplace_back(QPointF(label.place) - frame_.origin, label.size);
+    return boxes;
 }

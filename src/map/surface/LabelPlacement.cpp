@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -33,36 +34,61 @@ double topOf(double anchor, double height, LabelBaseline baseline) {
     return anchor - height / 2.0;
 }
 
-/// `low` moved so that a stretch of `length` lies between `begin` and `end`; what is too long begins at `begin`.
-double movedBetween(double low, double length, double begin, double end) {
-    return std::max(begin, std::min(low, end - length));
+/// A little more than a usual label, so that a box touches few cells. Device pixels.
+constexpr double CellWidth = 128.0;
+constexpr double CellHeight = 32.0;
+/// Whatever the sizes asked for, a box is entered into no more cells than this in each direction.
+constexpr std::int64_t MostCells = 64;
+/// Far beyond every map; keeps cells countable.
+constexpr double FarthestPixel = 1e12;
+
+std::int64_t cellOf(double pixel, double cell) {
+    return static_cast<std::int64_t>(std::floor(std::clamp(pixel, -FarthestPixel, FarthestPixel) / cell));
 }
 
 } // namespace
 
+template<typename Visit>
+bool LabelPlacement::visitCells(const QRectF& box, Visit visit) {
+    const std::int64_t left = cellOf(box.left(), CellWidth), top = cellOf(box.top(), CellHeight);
+    const std::int64_t right = std::min(cellOf(box.right(), CellWidth), left + MostCells);
+    const std::int64_t bottom = std::min(cellOf(box.bottom(), CellHeight), top + MostCells);
+    for (std::int64_t y = top; y <= bottom; ++y) {
+        for (std::int64_t x = left; x <= right; ++x) {
+            if (!visit(static_cast<std::uint64_t>(y) << 32 ^ (static_cast<std::uint64_t>(x) & 0xFFFFFFFFU)))
+                return false;
+        }
+    }
+    return true;
+}
+
 std::optional<QRectF> LabelPlacement::place(const QSizeF& size, const QPointF& anchor, LabelJustification justification,
                                             LabelBaseline baseline, bool avoidCollisions) {
-    if (!isInView(anchor))
-        return {};
     const QRectF wanted(
         QPointF(leftOf(anchor.x(), size.width(), justification), topOf(anchor.y(), size.height(), baseline)), size);
     for (const QPointF& nudge : Nudges) {
-        const QRectF box = movedIntoView(wanted.translated(nudge.x() * size.width(), nudge.y() * size.height()));
+        const QRectF box = wanted.translated(nudge.x() * size.width(), nudge.y() * size.height());
         if (!avoidCollisions || !collides(box)) {
-            taken_.push_back(box);
+            take(box);
             return box;
         }
     }
     return {};
 }
 
-QRectF LabelPlacement::movedIntoView(const QRectF& box) const {
-    return {QPointF(movedBetween(box.left(), box.width(), view_.left(), view_.right()),
-                    movedBetween(box.top(), box.height(), view_.top(), view_.bottom())),
-            box.size()};
-}
-
 bool LabelPlacement::collides(const QRectF& box) const {
     const QRectF kept = box.adjusted(-gap_, -gap_, gap_, gap_);
-    return std::any_of(taken_.begin(), taken_.end(), [&](const QRectF& other) { return other.intersects(kept); });
+    return !visitCells(kept, [&](std::uint64_t cell) {
+        const auto found = cells_.find(cell);
+        return found == cells_.end() || std::none_of(found->second.begin(), found->second.end(),
+                                                     [&](std::uint32_t i) { return taken_[i].intersects(kept); });
+    });
+}
+
+void LabelPlacement::take(const QRectF& box) {
+    visitCells(box, [&](std::uint64_t cell) {
+        cells_[cell].push_back(static_cast<std::uint32_t>(taken_.size()));
+        return true;
+    });
+    taken_.push_back(box);
 }

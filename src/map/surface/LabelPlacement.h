@@ -6,28 +6,31 @@
 #include <QRectF>
 #include <QSizeF>
 
+#include <cstdint>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
-/// Finds room for the labels of one picture. Screen units: device pixels, y downwards.
+/// Finds room for the labels of a map, one after the other: who comes first stays. Knows no view, so that the labels of
+/// one scale stand the same wherever the view lies. Device pixels, y downwards, from any origin.
 class LabelPlacement {
 public:
-    /// `view`: the picture. `gap`: pixels kept free between two labels.
-    explicit LabelPlacement(const QRectF& view, double gap = 2.0) : view_(view), gap_(gap) {}
+    /// `gap`: pixels kept free between two labels.
+    explicit LabelPlacement(double gap = 2.0) : gap_(gap) {}
 
-    bool isInView(const QPointF& anchor) const { return view_.contains(anchor); }
-
-    /// The box of a label of `size` at `anchor`, moved just inside the view where it would stick out. With
-    /// `avoidCollisions` a label that would touch another moves a little to one side, and is dropped where that does
-    /// not help: then, and where the anchor is out of view, there is no box.
+    /// The box of a label of `size` at `anchor`. With `avoidCollisions` a label that would touch another moves a little
+    /// to one side, and is dropped where that does not help: then there is no box.
     std::optional<QRectF> place(const QSizeF& size, const QPointF& anchor, LabelJustification justification,
                                 LabelBaseline baseline, bool avoidCollisions);
 
 private:
-    QRectF movedIntoView(const QRectF& box) const;
+    /// Calls `visit` with the key of every cell that a box touches, until it says false. False where it did.
+    template<typename Visit>
+    static bool visitCells(const QRectF& box, Visit visit);
     bool collides(const QRectF& box) const;
+    void take(const QRectF& box);
 
-    QRectF view_;
     double gap_;
     std::vector<QRectF> taken_;
+    std::unordered_map<std::uint64_t, std::vector<std::uint32_t>> cells_; // positions in taken_
 };

@@ -8,7 +8,7 @@
 struct MapStyle {
     QColor sea{0xEC, 0xF1, 0xF5};
     QColor land{Qt::white}; ///< of every polygon that is not filled
-    QColor halo{255, 255, 255, 150};
+    QColor halo{255, 255, 255, 225};
     double devicePixelRatio = 1.0;
 };
 

@@ -1,0 +1,144 @@
+#include "map/surface/LabelFace.h"
+
+#include <QPainter>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace {
+
+constexpr double PixelsPerPoint = 96.0 / 72.0;
+constexpr double MostPoints = 200.0;
+/// Interface pixels. The rim is full up to the first and gone at the second.
+constexpr double FullRim = 1.0;
+constexpr double WidestRim = 2.2;
+constexpr qsizetype KeptPixels = 6'000'000;
+constexpr double MostPixelsOfALabel = 2'000'000.0;
+/// Letters of western scripts: a text of them is as wide as its letters.
+constexpr ushort LastPlainLetter = 0x24F;
+
+/// Coverage by text, 0 to 255, one byte a pixel.
+struct Mask {
+    int width, height;
+    std::vector<uchar> coverage;
+
+    Mask(int columns, int rows)
+        : width(columns), height(rows), coverage(static_cast<std::size_t>(columns) * static_cast<std::size_t>(rows)) {}
+    uchar* row(int y) { return coverage.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width); }
+    const uchar* row(int y) const {
+        return coverage.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(width);
+    }
+};
+
+/// Makes `to` at least `from` moved by (dx, dy), in 256ths of `weight`.
+void spread(const Mask& from, Mask& to, int dx, int dy, int weight) {
+    const int left = std::max(0, dx), right = std::min(to.width, to.width + dx);
+    for (int y = std::max(0, dy); y < std::min(to.height, to.height + dy); ++y) {
+        const uchar* source = from.row(y - dy) - dx;
+        uchar* target = to.row(y);
+        for (int x = left; x < right; ++x)
+            target[x] = std::max(target[x], static_cast<uchar>(source[x] * weight >> 8));
+    }
+}
+
+/// What lies within reach of the text, fading outwards.
+Mask rimOf(const Mask& text, int reach, double ratio) {
+    Mask rim(text.width, text.height);
+    for (int dy = -reach; dy <= reach; ++dy) {
+        for (int dx = -reach; dx <= reach; ++dx) {
+            const double distance = std::hypot(dx, dy) / ratio;
+            const double weight = std::clamp((WidestRim - distance) / (WidestRim - FullRim), 0.0, 1.0);
+            if (weight > 0.0)
+                spread(text, rim, dx, dy, static_cast<int>(weight * 256.0));
+        }
+    }
+    return rim;
+}
+
+QRgb covered(const QColor& colour, int coverage) {
+    return qPremultiply(qRgba(colour.red(), colour.green(), colour.blue(), colour.alpha() * coverage / 255));
+}
+
+/// One premultiplied colour over another.
+QRgb over(QRgb upper, QRgb lower) {
+    const int rest = 255 - qAlpha(upper);
+    const auto mix = [rest](int a, int b) { return a + (b * rest + 127) / 255; };
+    return qRgba(mix(qRed(upper), qRed(lower)), mix(qGreen(upper), qGreen(lower)), mix(qBlue(upper), qBlue(lower)),
+                 mix(qAlpha(upper), qAlpha(lower)));
+}
+
+} // namespace
+
+QFont labelFont(const LabelFont& font, double devicePixelRatio) {
+    // The second name of a pair has the widths of the first and is what free systems have in its place.
+    QStringList families{QString::fromStdString(font.family)};
+    if (equalText(font.family, "Calibri"))
+        families << "Carlito";
+    families << "Arial"
+             << "Liberation Sans"
+             << "DejaVu Sans";
+    QFont result;
+    result.setFamilies(families);
+    result.setPixelSize(
+        std::max(1, qRound(std::clamp(font.size, 1.0, MostPoints) * PixelsPerPoint * devicePixelRatio)));
+    return result;
+}
+
+LabelFace::LabelFace(const LabelFont& font, const QColor& colour, const QColor& halo, double devicePixelRatio)
+    : font_(labelFont(font, devicePixelRatio)), metrics_(font_), colour_(colour), halo_(halo), ratio_(devicePixelRatio),
+      rim_(static_cast<int>(std::ceil(WidestRim * devicePixelRatio))), images_(KeptPixels) {}
+
+QSizeF LabelFace::sizeOf(const QString& text) {
+    double width = 0.0;
+    for (const QChar& character : text) {
+        if (character.unicode() > LastPlainLetter)
+            return {metrics_.horizontalAdvance(text), metrics_.height()};
+        width += advanceOf(character);
+    }
+    return {width, metrics_.height()};
+}
+
+double LabelFace::advanceOf(QChar character) {
+    const auto known = advances_.constFind(character);
+    return known != advances_.constEnd() ? *known : *advances_.insert(character, metrics_.horizontalAdvance(character));
+}
+
+QImage LabelFace::image(const QString& text) {
+    if (const QImage* kept = images_.object(text))
+        return *kept;
+    QImage drawn = draw(text);
+    images_.insert(text, new QImage(drawn), std::max<qsizetype>(1, qsizetype(drawn.width()) * drawn.height()));
+    return drawn;
+}
+
+QImage LabelFace::draw(const QString& text) {
+    const QSizeF size = sizeOf(text);
+    if (text.isEmpty() || size.width() * size.height() > MostPixelsOfALabel)
+        return {};
+    const QSize pixels(static_cast<int>(std::ceil(size.width())) + 2 * rim_,
+                       static_cast<int>(std::ceil(size.height())) + 2 * rim_);
+    QImage drawn(pixels, QImage::Format_ARGB32_Premultiplied);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(font_);
+    painter.setPen(Qt::black);
+    painter.drawText(QPointF(rim_, rim_ + std::round(metrics_.ascent())), text);
+    painter.end();
+
+    Mask mask(pixels.width(), pixels.height());
+    for (int y = 0; y < mask.height; ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(drawn.constScanLine(y));
+        std::transform(line, line + mask.width, mask.row(y),
+                       [](QRgb pixel) { return static_cast<uchar>(qAlpha(pixel)); });
+    }
+    const Mask rim = rimOf(mask, rim_, ratio_);
+    for (int y = 0; y < mask.height; ++y) {
+        auto* line = reinterpret_cast<QRgb*>(drawn.scanLine(y));
+        for (int x = 0; x < mask.width; ++x)
+            line[x] = over(covered(colour_, mask.row(y)[x]), covered(halo_, rim.row(y)[x]));
+    }
+    return drawn;
+}
