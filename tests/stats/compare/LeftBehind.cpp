@@ -85,3 +85,13 @@ std::string firstDifference(const std::vector<TableRows>& scanned, const std::ve
     }
     return {};
 }
+
+std::string firstDifference(const std::vector<std::string>& stored, const std::vector<std::string>& recounted) {
+    for (std::size_t row = 0; row < std::max(stored.size(), recounted.size()); ++row) {
+        const std::string is = row < stored.size() ? stored[row] : "no row";
+        const std::string expected = row < recounted.size() ? recounted[row] : "no row";
+        if (is != expected)
+            return "stored " + is + "\nrecounted " + expected;
+    }
+    return {};
+}

@@ -18,3 +18,5 @@ std::vector<TableRows> leftBehind(const RandomRun& run);
 
 /// Where the two differ first: table, row and column; empty where they do not.
 std::string firstDifference(const std::vector<TableRows>& scanned, const std::vector<TableRows>& stated);
+/// The first rows that differ of a table and its recount.
+std::string firstDifference(const std::vector<std::string>& stored, const std::vector<std::string>& recounted);

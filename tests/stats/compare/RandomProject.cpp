@@ -152,7 +152,7 @@ RandomInstallation::RandomInstallation(const ProjectContent& content) {
                {place.code, place.tvArea, place.csg, place.exchange, place.postCode});
         if (content.hasLookup)
             insert(*gdbSystem, "TblLookup1141(\"1141\", TVArea, Exchange, PostCode)",
-                   {place.code, place.tvArea, place.exchange, place.postCode});
+                   {"elsewhere", place.tvArea, place.exchange, place.postCode});
     }
     for (const ProjectCall& call : content.calls)
         storeCall(call);
