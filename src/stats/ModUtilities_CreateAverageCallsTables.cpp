@@ -4,7 +4,10 @@
 #include "data/project/SystemDatabaseStep.h"
 #include "data/schema/Vocabulary.h"
 #include "stats/CurrentProcedure.h"
+#include "stats/LinkedCalls.h"
 #include "stats/SelectionState.h"
+
+#include <iterator>
 
 namespace {
 
@@ -26,6 +29,23 @@ void makeEmpty(const std::string& table) {
             createVocabularyTable(systemDatabase(), DatabaseKind::SystemMap, table);
     });
     onSystem("DELETE FROM " + table);
+}
+
+/// The averages of one boundary as its table takes them; no caller, no average.
+void store(const AveragedBoundary& boundary, const std::vector<AreaCallers>& areas) {
+    onSystemDatabase([&] {
+        WorkspaceTransaction whole(*defaultWorkspace());
+        const auto rows = systemDatabase().openRecordset(boundary.averages);
+        for (const AreaCallers& area : areas) {
+            rows->AddNew();
+            rows->set(boundary.averageKey, area.area ? Value(*area.area) : Value());
+            rows->set("Average", area.callers > 0
+                                     ? Value(static_cast<double>(area.calls) / static_cast<double>(area.callers))
+                                     : Value());
+            rows->Update();
+        }
+        whole.commit();
+    });
 }
 
 /// The linked calls go by the name that a selection knows them by.
@@ -60,8 +80,16 @@ void ModUtilities_CreateAverageCallsTables() {
     };
     for (const AveragedBoundary& boundary : boundaries)
         makeEmpty(boundary.averages);
-    for (const AveragedBoundary& boundary : boundaries)
-        collect(boundary);
+    std::optional<std::vector<std::vector<AreaCallers>>> scanned;
+    onSystemDatabase([&] {
+        scanned = linkedCallers({boundaries[0].dataColumn, boundaries[1].dataColumn}, SelectionSql);
+    });
+    for (std::size_t i = 0; i < std::size(boundaries); ++i) {
+        if (!scanned)
+            collect(boundaries[i]);
+        else if (i < scanned->size())
+            store(boundaries[i], (*scanned)[i]);
+    }
     for (const AveragedBoundary& boundary : boundaries)
         copy(boundary);
     for (const AveragedBoundary& boundary : boundaries)

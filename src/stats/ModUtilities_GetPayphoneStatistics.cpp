@@ -3,6 +3,7 @@
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "stats/CurrentProcedure.h"
+#include "stats/LinkedCalls.h"
 
 namespace {
 
@@ -31,12 +32,40 @@ std::string payphoneStatement() {
            (SelectionSql.empty() ? "" : " AND " + SelectionSql);
 }
 
+/// The figure of that name; nothing where it is none of them.
+std::optional<double> figureNamed(const std::string& name, const SpecialRowFigures& figures) {
+    const std::pair<std::string_view, double> named[] = {
+        {"TotalCalls", static_cast<double>(figures.totalCalls)},
+        {"Answered", static_cast<double>(figures.answered)},
+        {"Ineffective", static_cast<double>(figures.ineffective)},
+        {"Cost", Value(figures.cost).asDouble()},
+        {"Revenue", Value(figures.revenue).asDouble()},
+        {"Engaged", static_cast<double>(figures.engaged)},
+        {"RTNR", static_cast<double>(figures.rtnr)},
+        {"Other", static_cast<double>(figures.other)},
+        // Here these are calls, not callers.
+        {"LostCallers", static_cast<double>(figures.ineffective)},
+        {"AnsweredCallers", static_cast<double>(figures.answered)},
+    };
+    for (const auto& [known, value] : named) {
+        if (equalText(known, name))
+            return value;
+    }
+    return {};
+}
+
 } // namespace
 
 void ModUtilities_GetPayphoneStatistics(const std::string& name, double& value) {
     const CurrentProcedure procedure("ModUtilities_GetPayphoneStatistics");
     value = 0;
     onSystemDatabase([&] {
+        const auto scanned = linkedPayphoneCalls(SelectionSql);
+        const auto known = scanned ? figureNamed(name, *scanned) : std::nullopt;
+        if (known) {
+            value = *known;
+            return;
+        }
         const auto figures = systemDatabase().openRecordset(payphoneStatement());
         const Value& figure = figures->value(name);
         value = figure.isNull() ? 0 : figure.asDouble();

@@ -1,14 +1,12 @@
 #include "stats/ScanFigures.h"
 
-#include "core/LogError.h"
-#include "core/ModDeclarations.h"
-#include "data/jet/Parser.h"
 #include "data/jet/Search.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "data/types/DatabaseError.h"
 #include "stats/FigureEngine.h"
 #include "stats/ProjectCalls.h"
+#include "stats/ScanSelection.h"
 #include "stats/WorkingViews.h"
 
 #include <algorithm>
@@ -17,22 +15,9 @@
 
 namespace {
 
-constexpr long doesNotFit = 5; // as any argument that a procedure cannot take
-
 bool isOneOf(const Value& text, std::initializer_list<const char*> wanted) {
     return !text.isNull() &&
            std::any_of(wanted.begin(), wanted.end(), [&](const char* one) { return equalText(text.asText(), one); });
-}
-
-/// Whether a condition keeps its meaning behind "… AND ".
-bool standsBehindAnd(const std::string& where) {
-    using Kind = jet::Expression::Kind;
-    try {
-        const Kind kind = jet::parseExpression(where)->kind;
-        return kind != Kind::Or && kind != Kind::Logic;
-    } catch (const RuntimeError&) {
-        return false;
-    }
 }
 
 /// Values in the order of SQL, null first.
@@ -44,24 +29,6 @@ struct ByText {
     }
 };
 
-void addTo(SpecialRowFigures& figures, const Value& answerInd, const CallSums& sums) {
-    figures.totalCalls += sums.calls;
-    figures.cost.tenThousandths += sums.cost;
-    figures.revenue.tenThousandths -= sums.revenue;
-    if (answerInd.isNull())
-        return;
-    const bool isAnswered = isOneOf(answerInd, {"0", "8"});
-    const bool isEngaged = isOneOf(answerInd, {"2", "9"});
-    const bool isRtnr = isOneOf(answerInd, {"4"});
-    (isAnswered ? figures.answered : figures.ineffective) += sums.calls;
-    if (isEngaged)
-        figures.engaged += sums.calls;
-    else if (isRtnr)
-        figures.rtnr += sums.calls;
-    else if (!isAnswered)
-        figures.other += sums.calls;
-}
-
 } // namespace
 
 ScanFigures::ScanFigures(const BoundaryTraits& boundary)
@@ -71,18 +38,11 @@ ScanFigures::ScanFigures(const BoundaryTraits& boundary, std::shared_ptr<const C
     : area_(boundary.dataColumn), ofProject_(false), columns_(std::move(columns)), statements_(boundary) {}
 
 CallScan ScanFigures::scanOrThrow(const std::string& where) {
-    if (!columns_)
-        throw DatabaseError(doesNotFit, whyNoProjectCalls());
+    const ScanSelection selection(columns_.get(), where);
     if (!areas_)
         areas_.emplace(projectDatabase(), area_, *columns_);
-    std::optional<CallPredicate> predicate;
-    if (!where.empty()) {
-        predicate = CallPredicate::compile(where, callTablesOf(projectDatabase()), *columns_);
-        if (!predicate)
-            throw DatabaseError(doesNotFit, "The selection looks at more than columns of calls, or is wrong:" + where);
-    }
     const ScanBoundary* boundary = &areas_->boundary;
-    return scanCalls(*columns_, predicate ? &*predicate : nullptr, {&boundary, 1});
+    return scanCalls(*columns_, selection.predicate(), {&boundary, 1});
 }
 
 std::optional<CallScan> ScanFigures::scan(const std::string& where) {
@@ -95,10 +55,7 @@ std::optional<CallScan> ScanFigures::scan(const std::string& where) {
 }
 
 ScanFigures::Origin ScanFigures::withoutScan() const {
-    if (figureEngine() != FigureEngine::Scan)
-        return Origin::Statements;
-    LogError(gsCurrentProc, doesNotFit, "The figures cannot be had by a scan of the calls. " + refusal_);
-    return Origin::Nobody;
+    return mayAskStatements(refusal_) ? Origin::Statements : Origin::Nobody;
 }
 
 void ScanFigures::makeSelectedData(const CallSelection& selection) {
@@ -233,7 +190,7 @@ SpecialRowFigures ScanFigures::specialRow(std::string_view test) {
                 continue;
             for (const std::uint32_t place : areas_->placesOfCode[code]) {
                 for (std::size_t ind = 0; fits[place] && ind < answerInds.size(); ++ind)
-                    addTo(figures, answerInds[ind], selected_.of(code, ind));
+                    addCalls(figures, answerInds[ind], selected_.of(code, ind));
             }
         }
     });

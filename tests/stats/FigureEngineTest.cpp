@@ -3,6 +3,8 @@
 #include "data/project/Databases.h"
 #include "data/types/DatabaseError.h"
 #include "stats/FigureSource.h"
+#include "stats/ModUtilities_CreateAverageCallsTables.h"
+#include "stats/ModUtilities_GetPayphoneStatistics.h"
 #include "tests/stats/BoundaryProject.h"
 
 #include <gtest/gtest.h>
@@ -111,6 +113,45 @@ TEST_F(FigureEngines, AScanThatIsWantedFailsAloudWhereItCannotBeDone) {
     ModData_SelectedTVArea("TblSelectedDataForTV", 1);
     EXPECT_EQ(usedFigureEngine(), FigureEngine::Automatic);
     EXPECT_GT(project.logLinesWith("no money of four decimals and this size"), 1);
+}
+
+/// Averages and payphones, with what counting can stumble over: calls without a date, callers without a number, codes
+/// that lie in two places.
+TEST_F(FigureEngines, AgreeOnDerivedMeasures) {
+    project.addCalls({{"", "0114", "0", 1, 2}, {"", "0113", "x", 1, 3}, {"a ", "0113", "4", -2}, {"", "VOIP", "4"}});
+    project.addArea("0113", "LEEDS", "113", "ls1", "Granada");
+    gdbProject->execute("UPDATE TblTeleItem SET CallDate = Null WHERE CallingNo = 'C'");
+    gdbProject->execute("UPDATE TblTeleItem SET PayPhone = 'p' WHERE CallingNo In ('A', 'C') Or CallingNo Is Null");
+    gdbProject->execute("UPDATE TblTeleItem SET AnswerInd = Null WHERE AnswerInd = 'x'");
+    const auto derived = [](FigureEngine engine) {
+        setFigureEngine(engine);
+        Rows rows;
+        for (const char* table : {"TblTV", "TblPostCodeDistrict"})
+            gdbSystem->execute(std::string("DELETE FROM ") + table);
+        SelectionSql.clear();
+        ModData_SelectedTVArea("TblTV", 1);
+        ModData_SelectedPostCodeData("TblPostCodeDistrict", 1);
+        for (const char* selection : selections) {
+            SelectionSql = selection;
+            ModUtilities_CreateAverageCallsTables();
+            for (const char* query : {"SELECT TVRegion, AverageCalls1 FROM TblTV ORDER BY TVRegion",
+                                      "SELECT PostCodeDistrict, AverageCalls1 FROM TblPostCodeDistrict ORDER BY 1"}) {
+                for (const std::string& row : rowsOf(*gdbSystem, query))
+                    rows.push_back(selection + row);
+            }
+            for (const char* name : {"TotalCalls", "Answered", "Ineffective", "Cost", "Revenue", "Engaged", "RTNR",
+                                     "Other", "LostCallers", "AnsweredCallers", "Unknown"}) {
+                double value = 0;
+                ModUtilities_GetPayphoneStatistics(name, value);
+                rows.push_back(std::string(selection) + name + Value(value).asText());
+            }
+        }
+        return rows;
+    };
+    const Rows expected = derived(FigureEngine::Statements);
+    EXPECT_EQ(derived(FigureEngine::Automatic), expected);
+    EXPECT_NE(std::find(expected.begin(), expected.end(), "Yorkshire|2"), expected.end());
+    EXPECT_NE(std::find(expected.begin(), expected.end(), "TotalCalls8"), expected.end());
 }
 
 /// A project on a medium that cannot be written: the figures are had, the working tables are not.

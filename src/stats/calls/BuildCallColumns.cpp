@@ -73,11 +73,13 @@ public:
         }
         columns_.answerInd.reserve(expectedRows);
         columns_.money.reserve(expectedRows);
+        payphones_.reserve(expectedRows);
         callerOf_.reserve(expectedRows);
     }
 
     void take(const CallChunk& chunk) {
         columns_.money.insert(columns_.money.end(), chunk.money.begin(), chunk.money.end());
+        payphones_.insert(payphones_.end(), chunk.payphones.begin(), chunk.payphones.end());
         const std::uint16_t* length = chunk.lengths.data();
         const char* at = chunk.bytes.data();
         for (std::size_t row = 0; row < chunk.rows(); ++row) {
@@ -138,6 +140,7 @@ private:
     DateIds dates_;
     std::array<TextIds, callerText> texts_;
     CallerNumbers callers_;
+    std::vector<bool> payphones_;         ///< by row
     std::vector<std::uint32_t> callerOf_; ///< by row; by placeCalls() its place in the order of callers
 };
 
@@ -158,13 +161,17 @@ void Encoder::placeCalls() {
     for (std::uint32_t caller = 0; caller < count; ++caller) {
         const std::uint32_t start = next[caller];
         next[caller + 1] += start;
-        if (answered[caller])
+        if (answered[caller] || caller == nullCaller)
             std::fill(columns_.callerFlags.begin() + start, columns_.callerFlags.begin() + next[caller + 1],
-                      CallColumns::callerWasAnswered);
+                      caller == nullCaller ? CallColumns::callerIsNull : CallColumns::callerWasAnswered);
         columns_.callerFlags[start] |= CallColumns::firstOfCaller;
     }
-    for (std::uint32_t& caller : callerOf_)
-        caller = next[caller]++;
+    for (std::size_t row = 0; row < callerOf_.size(); ++row) {
+        callerOf_[row] = next[callerOf_[row]]++;
+        if (payphones_[row])
+            columns_.callerFlags[callerOf_[row]] |= CallColumns::fromPayphone;
+    }
+    payphones_ = {};
     columns_.callers = count;
     callers_ = {};
 }

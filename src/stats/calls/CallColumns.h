@@ -20,6 +20,9 @@ struct CallColumns {
     /// Bits of `callerFlags`.
     static constexpr std::uint8_t firstOfCaller = 1;
     static constexpr std::uint8_t callerWasAnswered = 2; ///< at any time; never set for the null caller
+    static constexpr std::uint8_t callerIsNull = 4;
+    static constexpr std::uint8_t fromPayphone = 8; ///< of this one call
+    static constexpr std::size_t flagCount = 16;    ///< all flags are below
 
     std::size_t size() const { return money.size(); }
     const std::vector<Value>& valuesOf(CallField field) const { return values[static_cast<std::size_t>(field)]; }

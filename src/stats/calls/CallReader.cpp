@@ -14,6 +14,7 @@ constexpr std::size_t rowsOfChunk = 16384;
 constexpr int dateColumn = 0;
 constexpr int moneyColumn = 1;
 constexpr int firstText = 2;
+constexpr int payphoneColumn = firstText + static_cast<int>(CallChunk::texts);
 
 bool fits(FieldType type, std::size_t column) {
     if (column == dateColumn)
@@ -36,6 +37,8 @@ std::string readingStatement(Database& project) {
             throw DatabaseError(3421, "The column '" + name + "' of 'TblTeleItem' is of another type than expected");
         list += (list.empty() ? "" : ", ") + quoteIdentifier(field->name);
     }
+    const Field* payphone = table->findField("PayPhone");
+    list += payphone && isText(payphone->type) ? ", " + quoteIdentifier(payphone->name) : ", NULL";
     return "SELECT " + list + " FROM " + quoteIdentifier(project.schema()) + ".TblTeleItem";
 }
 
@@ -50,6 +53,7 @@ const std::vector<std::string>& callColumnNames() {
 void CallChunk::clear() {
     dates.clear();
     money.clear();
+    payphones.clear();
     lengths.clear();
     bytes.clear();
 }
@@ -64,6 +68,7 @@ void CallReader::read(CallChunk& chunk) {
             break;
         chunk.dates.push_back(date());
         chunk.money.push_back(money());
+        chunk.payphones.push_back(isFromPayphone());
         for (std::size_t i = 0; i < CallChunk::texts; ++i)
             readText(chunk, firstText + static_cast<int>(i));
     }
@@ -82,6 +87,13 @@ void CallReader::readText(CallChunk& chunk, int column) const {
         refuse(column, "is too long");
     chunk.lengths.push_back(static_cast<std::uint16_t>(text.size()));
     chunk.bytes.append(text);
+}
+
+bool CallReader::isFromPayphone() const {
+    if (rows_.columnStorage(payphoneColumn) != SQLITE_TEXT)
+        return false;
+    const std::string_view text = rows_.text(payphoneColumn);
+    return !text.empty() && (text.front() == 'P' || text.front() == 'p') && equalText(text, "P");
 }
 
 double CallReader::date() const {

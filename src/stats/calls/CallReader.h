@@ -14,10 +14,11 @@ struct CallChunk {
     static constexpr std::uint16_t null = 0xFFFF; ///< in `lengths`
     static constexpr std::size_t texts = 7; ///< CallTime, CalledNo, AnswerLoc, NetAddress, 1141, AnswerInd, CallingNo
 
-    std::vector<double> dates;          ///< not a number: null
-    std::vector<std::int32_t> money;    ///< ten-thousandths; null is 0
-    std::vector<std::uint16_t> lengths; ///< row × `texts`
-    std::string bytes;                  ///< the texts, one behind the other
+    std::vector<double> dates;           ///< not a number: null
+    std::vector<std::int32_t> money;     ///< ten-thousandths; null is 0
+    std::vector<std::uint8_t> payphones; ///< 1 for a call from a payphone
+    std::vector<std::uint16_t> lengths;  ///< row × `texts`
+    std::string bytes;                   ///< the texts, one behind the other
 
     std::size_t rows() const { return dates.size(); }
     void clear();
@@ -36,6 +37,7 @@ public:
 
 private:
     void readText(CallChunk& chunk, int column) const;
+    bool isFromPayphone() const;
     double date() const;
     std::int32_t money() const;
     [[noreturn]] void refuse(int column, const std::string& what) const;

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr std::int64_t formatVersion = 2;
+constexpr std::int64_t formatVersion = 3;
 constexpr std::size_t pieceBytes = 1 << 20;
 constexpr std::int64_t headerPart = -1;
 
@@ -223,7 +223,8 @@ std::optional<std::vector<Piece>> readPieces(Database& project, CallColumns& col
 }
 
 bool idsFit(const CallColumns& columns) {
-    bool fit = allBelow(columns.answerInd, columns.answerKinds.size());
+    bool fit = allBelow(columns.answerInd, columns.answerKinds.size()) &&
+               allBelow(columns.callerFlags, CallColumns::flagCount);
     for (std::size_t i = 0; i < callFieldCount; ++i)
         fit = fit && allBelow(columns.ids[i], columns.values[i].size());
     return fit && (columns.callerFlags.empty() || (columns.callerFlags.front() & CallColumns::firstOfCaller) != 0);

@@ -40,16 +40,20 @@ public:
             meet(single_[block.code[i]], block.kind[i], block.caller[i]);
     }
 
-    void addTo(CallScan::Callers& callers) const {
-        callers.answered.resize(boundary_.areas);
-        callers.lost.resize(boundary_.areas);
-        for (std::size_t area = 0; area < boundary_.areas; ++area) {
-            callers.answered[area] += cells_[area].callers;
-            callers.lost[area] += cells_[stride_ + area].callers;
-        }
+    void addTo(CallScan::Callers& callers, CallersBy callersBy) const {
+        const bool byOutcome = callersBy == CallersBy::Outcome;
+        addTo(byOutcome ? callers.answered : callers.all, AnswerKind::Answered);
+        if (byOutcome)
+            addTo(callers.lost, AnswerKind::Unanswered);
     }
 
 private:
+    void addTo(std::vector<std::int64_t>& counts, AnswerKind kind) const {
+        counts.resize(boundary_.areas);
+        for (std::size_t area = 0; area < boundary_.areas; ++area)
+            counts[area] += cells_[static_cast<std::size_t>(kind) * stride_ + area].callers;
+    }
+
     void countSeveral(const Block& block) {
         for (std::size_t i = 0; i < block.size; ++i) {
             if (!hasSeveral_[block.code[i]]) {
@@ -82,18 +86,15 @@ private:
 /// One thread's share of the calls, from the first call of a caller to the last of another.
 class Scan {
 public:
-    Scan(const CallColumns& columns, const CallPredicate* predicate, std::span<const ScanBoundary* const> boundaries)
-        : columns_(columns), predicate_(predicate), inds_(columns.answerKinds.size()),
+    Scan(const CallColumns& columns, const CallPredicate* predicate, std::span<const ScanBoundary* const> boundaries,
+         CallersBy callersBy)
+        : columns_(columns), predicate_(predicate), callersBy_(callersBy), inds_(columns.answerKinds.size()),
           sums_(columns.valuesOf(CallField::Code).size() * inds_) {
         for (const ScanBoundary* boundary : boundaries)
             counters_.emplace_back(*boundary);
-        for (std::size_t flags = 0; flags < 4; ++flags) {
-            const bool wasAnswered = (flags & CallColumns::callerWasAnswered) != 0;
-            for (std::size_t ind = 0; ind < inds_; ++ind) {
-                const AnswerKind kind = columns.answerKinds[ind];
-                const bool found = wasAnswered && kind == AnswerKind::Unanswered;
-                kinds_[flags * 256 + ind] = static_cast<std::uint8_t>(found ? AnswerKind::Unknown : kind);
-            }
+        for (std::size_t flags = 0; flags < CallColumns::flagCount; ++flags) {
+            for (std::size_t ind = 0; ind < inds_; ++ind)
+                kinds_[flags * 256 + ind] = static_cast<std::uint8_t>(kindOf(flags, columns.answerKinds[ind]));
         }
         const auto& numbers = columns.valuesOf(CallField::CalledNo);
         const auto null = std::find_if(numbers.begin(), numbers.end(), [](const Value& v) { return v.isNull(); });
@@ -116,10 +117,18 @@ public:
         for (std::size_t i = 0; i < sums_.size(); ++i)
             result.sums[i] += sums_[i];
         for (std::size_t i = 0; i < counters_.size(); ++i)
-            counters_[i].addTo(result.callers[i]);
+            counters_[i].addTo(result.callers[i], callersBy_);
     }
 
 private:
+    /// As which a call counts for its caller; Unknown: not at all.
+    AnswerKind kindOf(std::size_t flags, AnswerKind kind) const {
+        if (callersBy_ == CallersBy::All)
+            return (flags & CallColumns::callerIsNull) != 0 ? AnswerKind::Unknown : AnswerKind::Answered;
+        const bool found = (flags & CallColumns::callerWasAnswered) != 0 && kind == AnswerKind::Unanswered;
+        return found ? AnswerKind::Unknown : kind;
+    }
+
     void takeAll(std::size_t begin, std::size_t count) {
         for (std::size_t i = 0; i < count; ++i) {
             caller_ += columns_.callerFlags[begin + i] & CallColumns::firstOfCaller;
@@ -171,11 +180,12 @@ private:
 
     const CallColumns& columns_;
     const CallPredicate* predicate_;
+    CallersBy callersBy_;
     const std::uint16_t* codes_ = columns_.idsOf(CallField::Code).data();
     std::size_t inds_;
     std::vector<CallSums> sums_;
     std::vector<CallerCounter> counters_;
-    std::array<std::uint8_t, 4 * 256> kinds_{}; ///< by the caller's flags and the id of AnswerInd
+    std::array<std::uint8_t, CallColumns::flagCount * 256> kinds_{}; ///< by the caller's flags and the id of AnswerInd
     std::int32_t nullNumber_ = -1;
     std::uint32_t caller_ = 0;
     std::unique_ptr<Block> block_ = std::make_unique<Block>();
@@ -203,9 +213,9 @@ CallSums& CallSums::operator+=(const CallSums& other) {
 }
 
 CallScan scanCalls(const CallColumns& columns, const CallPredicate* predicate,
-                   std::span<const ScanBoundary* const> boundaries) {
-    Scan first(columns, predicate, boundaries);
-    Scan second(columns, predicate, boundaries);
+                   std::span<const ScanBoundary* const> boundaries, CallersBy callersBy) {
+    Scan first(columns, predicate, boundaries, callersBy);
+    Scan second(columns, predicate, boundaries, callersBy);
     const std::size_t middle = middleCaller(columns);
     auto secondHalf = std::async(std::launch::async, [&] { second.run(middle, columns.size()); });
     first.run(0, middle);
@@ -217,4 +227,24 @@ CallScan scanCalls(const CallColumns& columns, const CallPredicate* predicate,
     first.addTo(result);
     second.addTo(result);
     return result;
+}
+
+std::vector<CallSums> sumPayphoneCalls(const CallColumns& columns, const CallPredicate* predicate) {
+    std::vector<CallSums> sums(columns.answerKinds.size());
+    std::vector<std::uint8_t> mask(blockRows, 1);
+    const auto scratch = std::make_unique<CallPredicate::Scratch>();
+    for (std::size_t begin = 0; begin < columns.size(); begin += blockRows) {
+        const std::size_t count = std::min(blockRows, columns.size() - begin);
+        if (predicate)
+            predicate->select(columns, begin, count, mask.data(), *scratch);
+        for (std::size_t i = 0; i < count; ++i) {
+            if ((columns.callerFlags[begin + i] & CallColumns::fromPayphone) == 0 || mask[i] == 0)
+                continue;
+            CallSums& sum = sums[columns.answerInd[begin + i]];
+            ++sum.calls;
+            sum.cost += std::max(columns.money[begin + i], 0);
+            sum.revenue += std::min(columns.money[begin + i], 0);
+        }
+    }
+    return sums;
 }

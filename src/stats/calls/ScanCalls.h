@@ -31,14 +31,19 @@ struct CallScan {
     const CallSums& of(std::size_t code, std::size_t answerInd) const { return sums[code * answerInds + answerInd]; }
 
     /// Distinct callers by area: answered at least once within the selection; unanswered at least once within it and
-    /// answered at no time. Null is one caller.
+    /// answered at no time. Null is one caller. Or all of them, whatever became of their calls; null is none then.
     struct Callers {
-        std::vector<std::int64_t> answered, lost;
+        std::vector<std::int64_t> answered, lost, all;
     };
     std::vector<Callers> callers; ///< by boundary
 };
 
+enum class CallersBy { Outcome, All };
+
 /// One pass over the calls that the predicate selects, all of them where it is null, for any number of boundaries.
 /// Works on two threads, of which one is the caller's; a project of ten million calls takes a few dozen milliseconds.
 CallScan scanCalls(const CallColumns& columns, const CallPredicate* predicate,
-                   std::span<const ScanBoundary* const> boundaries);
+                   std::span<const ScanBoundary* const> boundaries, CallersBy callersBy = CallersBy::Outcome);
+
+/// The sums over the selected calls from payphones by id of AnswerInd.
+std::vector<CallSums> sumPayphoneCalls(const CallColumns& columns, const CallPredicate* predicate);
