@@ -165,11 +165,15 @@ ShapeBounds boundsOf(const Shape& shape) {
 }
 
 double signedDoubleArea(const ShapeRing& ring) {
+    if (ring.empty())
+        return 0.0;
+    // About a point of the ring: products of coordinates that are far from zero would drown a small area.
+    const ShapePoint origin = ring.front();
     double sum = 0.0;
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const ShapePoint& here = ring[i];
         const ShapePoint& next = ring[(i + 1) % ring.size()];
-        sum += here.x * next.y - next.x * here.y;
+        sum += (here.x - origin.x) * (next.y - origin.y) - (next.x - origin.x) * (here.y - origin.y);
     }
     return sum;
 }

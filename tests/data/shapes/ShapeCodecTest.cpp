@@ -149,3 +149,11 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"FartherThanAnyMap", [](EncodedShape& s) { setDouble(s.vertices, 2, 1e300); },
                ShapeFault::BadCoordinate}),
     [](const auto& row) { return row.param.name; });
+
+TEST(ShapeCodec, TellsTheWayOfATinyRingFarFromZero) {
+    const double tiny = 1.0 / 131072; // exact at this distance
+    const ShapeRing ring{{60000, 90000}, {60000 + tiny, 90000}, {60000, 90000 + tiny}, {60000, 90000}};
+    EXPECT_DOUBLE_EQ(signedDoubleArea(ring), tiny * tiny);
+    EXPECT_DOUBLE_EQ(signedDoubleArea({ring.rbegin(), ring.rend()}), -tiny * tiny);
+    EXPECT_EQ(signedDoubleArea({}), 0);
+}

@@ -109,12 +109,14 @@ TEST(PolygonMerger, TakesItsOwnResultAsItsFirstPolygon) {
     EXPECT_EQ(row.rings.size(), 1U);
 }
 
-/// A border from (0, 0) to (0, 1000) with a vertex every ten units; each writer of it is off by up to `error`.
+/// A border from (50000, 80000) a thousand units north with a vertex every ten; each writer of it is off by up to
+/// `error`.
 ShapeRing roughBorder(double error, std::mt19937& random) {
     std::uniform_real_distribution<double> offBy(-error, error);
     ShapeRing border;
     for (int y = 0; y <= 1000; y += 10)
-        border.push_back({20 * std::sin(y / 40.0) + offBy(random), y + (y % 1000 == 0 ? 0 : offBy(random))});
+        border.push_back(
+            {50000 + 20 * std::sin(y / 40.0) + offBy(random), 80000 + y + (y % 1000 == 0 ? 0 : offBy(random))});
     return border;
 }
 
@@ -122,9 +124,9 @@ TEST(PolygonMerger, NeighboursWhoseBorderDoesNotAgreeLeaveNoSlivers) {
     std::mt19937 random(7);
     for (const double error : {1e-9, 1e-6, 1e-3, 0.05, 0.4}) {
         ShapeRing west = roughBorder(error, random);
-        west.insert(west.end(), {{-500, 1000}, {-500, 0}, west.front()});
+        west.insert(west.end(), {{49500, 81000}, {49500, 80000}, west.front()});
         ShapeRing east = roughBorder(error, random);
-        east.insert(east.end(), {{500, 1000}, {500, 0}, east.front()});
+        east.insert(east.end(), {{50500, 81000}, {50500, 80000}, east.front()});
 
         const Shape both = united({{west}}, {{east}});
 
