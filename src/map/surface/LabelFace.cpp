@@ -12,8 +12,8 @@ namespace {
 constexpr double PixelsPerPoint = 96.0 / 72.0;
 constexpr double MostPoints = 200.0;
 /// Interface pixels. The rim is full up to the first and gone at the second.
-constexpr double FullRim = 1.0;
-constexpr double WidestRim = 2.2;
+constexpr double FullRim = 1.5;
+constexpr double WidestRim = 2.6;
 constexpr qsizetype KeptPixels = 6'000'000;
 constexpr double MostPixelsOfALabel = 2'000'000.0;
 /// Letters of western scripts: a text of them is as wide as its letters.
@@ -32,14 +32,15 @@ struct Mask {
     }
 };
 
-/// Makes `to` at least `from` moved by (dx, dy), in 256ths of `weight`.
+/// Makes `to` at least `from` moved by (dx, dy), in 256ths of `weight`. What is half covered counts as whole, or thin
+/// strokes would have a faint rim.
 void spread(const Mask& from, Mask& to, int dx, int dy, int weight) {
     const int left = std::max(0, dx), right = std::min(to.width, to.width + dx);
     for (int y = std::max(0, dy); y < std::min(to.height, to.height + dy); ++y) {
         const uchar* source = from.row(y - dy) - dx;
         uchar* target = to.row(y);
         for (int x = left; x < right; ++x)
-            target[x] = std::max(target[x], static_cast<uchar>(source[x] * weight >> 8));
+            target[x] = std::max(target[x], static_cast<uchar>(std::min(2 * source[x], 255) * weight >> 8));
     }
 }
 
