@@ -143,9 +143,9 @@ void MapSurface::setCamera(const Camera& camera) {
 }
 
 void MapSurface::setPixelSize(QSize devicePixels) {
-    const bool showsWhole = whole_ && camera_ == wholeCamera_;
+    const bool whole = showsWhole();
     camera_.setPixelSize(devicePixels);
-    if (showsWhole)
+    if (whole)
         showWhole(*whole_);
 }
 

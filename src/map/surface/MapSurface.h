@@ -70,7 +70,8 @@ public:
     /// Shows the whole of all layers that are not hidden; leaves the view where there is nothing to show.
     void ZoomToWholeMap();
     const Camera& camera() const { return camera_; }
-    void setCamera(const Camera& camera); ///< all but its pixel size
+    void setCamera(const Camera& camera);                                 ///< all but its pixel size
+    bool showsWhole() const { return whole_ && camera_ == wholeCamera_; } ///< the view is as such a zoom has left it
     /// Keeps centre and scale; but a view that ZoomToExtent has set shows the same whole again.
     void setPixelSize(QSize devicePixels);
 

@@ -1,22 +1,11 @@
 #include "map/surface/MapPainter.h"
+#include "tests/map/surface/DrawnSquares.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
-
-ShapeRing square(double x, double y, double side) {
-    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}, {x, y}};
-}
-
-MapShape polygon(std::int64_t id, std::vector<ShapeRing> rings) {
-    MapShape shape;
-    shape.id = id;
-    shape.shape.rings = std::move(rings);
-    const ShapeBounds bounds = boundsOf(shape.shape);
-    shape.bounds = QRectF(QPointF(bounds.lowX, bounds.lowY), QPointF(bounds.upX, bounds.upY));
-    shape.anchor = shape.bounds.center();
-    return shape;
-}
 
 /// One pixel for each map unit; the low left corner of the map's first 100 units is the view's.
 Camera squareCamera() {
@@ -40,16 +29,7 @@ constexpr MapColourCode Green = 0x00FF00;
 struct LayerFixture {
     DrawnMap map;
 
-    void add(std::vector<MapShape> shapes, const Symbol& symbol) {
-        if (!map.contents.empty())
-            map.scene.layers.emplace_back();
-        map.scene.layers.back().symbols = {symbol};
-        LayerContent content;
-        for (std::size_t i = 0; i < shapes.size(); ++i)
-            content.shapes.push_back({i, 0, ""});
-        content.table = std::make_shared<const ShapeTable>(std::move(shapes));
-        map.contents.push_back(std::move(content));
-    }
+    void add(std::vector<MapShape> shapes, const Symbol& symbol) { addLayer(map, std::move(shapes), symbol); }
     QImage paint(const Camera& camera) {
         MapPainter painter;
         return paint(camera, painter);
@@ -177,4 +157,79 @@ TEST(MapPainter, LabelsAreDarkOnALightRim) {
     EXPECT_GT(light, 30);
     map.map.scene.layers[0].symbols[0].SymbolEnableLabels = false;
     EXPECT_EQ(map.at(50, 50), QColor(Qt::red));
+}
+
+namespace {
+
+/// Hundreds of ragged areas side by side, some of them far larger than a tile of the picture.
+LayerFixture raggedMap() {
+    LayerFixture map;
+    std::uint32_t seed = 7;
+    const auto random = [&] { return (seed = seed * 1664525U + 1013904223U) / 4294967296.0; };
+    std::vector<MapShape> shapes;
+    for (int row = 0; row < 20; ++row) {
+        for (int column = 0; column < 20; ++column) {
+            ShapeRing ring;
+            for (int i = 0; i < 120; ++i) {
+                const double angle = i * 0.05235987755982989, reach = (row % 7 == 3 ? 30.0 : 6.0) + 3.0 * random();
+                ring.push_back({column * 10 + reach * std::cos(angle), row * 10 + reach * std::sin(angle)});
+            }
+            ring.push_back(ring.front());
+            shapes.push_back(polygon(row * 20 + column, {ring}));
+        }
+    }
+    map.add(std::move(shapes), fill(Red));
+    for (std::size_t i = 0; i < map.map.contents[0].shapes.size(); ++i)
+        map.map.contents[0].shapes[i].symbol = i % 3;
+    map.map.scene.layers[0].symbols = {fill(Red), fill(Green), fill(0xFF8040)};
+    return map;
+}
+
+Camera wideCamera(QPointF centre, double scale = 150) {
+    Camera camera;
+    camera.setPixelSize({400, 300});
+    camera.setScale(scale);
+    camera.setCenter(centre);
+    return camera;
+}
+
+/// Pixels that differ by more than the rounding of a half-covered one.
+int differentPixels(const QImage& a, const QImage& b) {
+    int different = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QColor one = a.pixelColor(x, y), other = b.pixelColor(x, y);
+            different += std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
+                             std::abs(one.blue() - other.blue()) >
+                         12;
+        }
+    }
+    return different;
+}
+
+} // namespace
+
+TEST(MapPainter, TheSameMapGivesTheSamePictureWhateverWasDrawnBefore) {
+    LayerFixture map = raggedMap();
+    const Camera view = wideCamera({100, 100});
+    const QImage fresh = map.paint(view);
+    MapPainter used;
+    map.paint(wideCamera({70, 120}), used);
+    map.paint(wideCamera({70, 120}, 20), used);
+    map.paint(wideCamera({130, 90}), used);
+    for (int turn = 0; turn < 3; ++turn)
+        EXPECT_EQ(map.paint(view, used), fresh);
+}
+
+TEST(MapPainter, APictureThatIsMovedIsTheOneThatWouldBeDrawnAnew) {
+    LayerFixture map = raggedMap();
+    for (const QPoint step :
+         {QPoint(12, 8), QPoint(-1, 0), QPoint(0, -250), QPoint(-30, 40), QPoint(399, 0), QPoint(5000, 0)}) {
+        MapPainter painter;
+        const Camera before = wideCamera({100, 100});
+        const QImage picture = map.paint(before, painter);
+        map.map.camera.moveBy(step);
+        const QImage moved = painter.paintMoved(picture, before, map.map, MapStyle());
+        EXPECT_LE(differentPixels(moved, map.paint(map.map.camera)), 6) << step.x() << ", " << step.y();
+    }
 }

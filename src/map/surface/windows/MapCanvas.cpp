@@ -115,13 +115,12 @@ void MapCanvas::resizeEvent(QResizeEvent*) {
 void MapCanvas::fitPicture() {
     const double ratio = devicePixelRatioF();
     const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
-    const Camera before = surface_.camera();
-    surface_.setPixelSize(pixels);
     // Once there is a picture, a larger window shows more of the map, not a larger map.
-    const double share = (pixels.width() / ratio) / (before.pixelSize().width() / pointer_.devicePixelRatio);
-    if (!surface_.picture().isNull() && surface_.MapScale() == before.scale() &&
-        surface_.camera().center() == before.center())
-        surface_.setMapScale(before.scale() * share);
+    const double share = (pixels.width() / ratio) / (surface_.camera().pixelSize().width() / pointer_.devicePixelRatio);
+    const bool showsMore = !surface_.picture().isNull() && !surface_.showsWhole();
+    surface_.setPixelSize(pixels);
+    if (showsMore)
+        surface_.setMapScale(surface_.MapScale() * share);
     surface_.style.devicePixelRatio = ratio;
     pointer_.devicePixelRatio = ratio;
     if (!surface_.picture().isNull())
