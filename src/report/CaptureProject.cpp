@@ -3,6 +3,7 @@
 #include "core/ModDeclarations.h"
 #include "core/Prompts.h"
 #include "data/project/CreateLinkTables.h"
+#include "report/CaptureRow.h"
 #include "stats/ModData_SelectedCSGData.h"
 #include "stats/ModData_SelectedCustomerGroups.h"
 #include "stats/ModData_SelectedExchangeData.h"
@@ -25,4 +26,11 @@ void captureProject() {
     ModData_SelectedCustomerGroups("TblCustomerGroups", 1);
     ModData_UpdateCallDataByPopulationDensity();
     ModUtilities_CreateAverageCallsTables();
+}
+
+void captureUnlessCaptured() {
+    if (isCaptured())
+        return;
+    captureProject();
+    recordCapture();
 }

@@ -107,6 +107,14 @@ void recordCapture() {
                               gsSystemDBPath + "].[TblDataCapture]");
 }
 
+void forgetCapture() {
+    onCaptureRow([](Recordset& row) {
+        row.Edit();
+        row.set("Captured", Value());
+        row.Update();
+    });
+}
+
 std::optional<MultiMapSettings> capturedMultiMapSettings() {
     std::optional<MultiMapSettings> settings;
     onCaptureRow([&](Recordset& row) {

@@ -24,6 +24,9 @@ bool isCaptured();
 /// forgets what runs of another project were asked for. Opens the project anew. Throws DatabaseError.
 void recordCapture();
 
+/// Takes the stamp back: the main tables are about to hold something else than one whole project.
+void forgetCapture();
+
 /// The ranges of the last run of several maps, where it was of the open project.
 struct MultiMapSettings {
     std::string boundaryType; ///< "PostcodeDistrict", or else TV regions

@@ -10,6 +10,7 @@
 #include "data/project/SetPopulationFlags.h"
 #include "data/schema/Vocabulary.h"
 #include "data/types/DatabaseError.h"
+#include "groups/FrmMain_TransferGroups.h"
 #include "report/ProjectPeriod.h"
 
 #include <filesystem>
@@ -61,8 +62,8 @@ void openProject(const std::string& path) {
     gsProjectPath = path;
     if (!OpenProjectDatabase(path))
         throw RuntimeError(5, "Unable to open Project Database '" + path + "'");
-    if (const auto account = firstValue(projectDatabase(), "SELECT TallyAccount FROM Tbl50"))
-        gsAccount = account->asText();
+    FrmMain_TransfergroupstoProject();
+    FrmMain_TransferGroupsToMap();
     if (ModUtilities_CreateLinkTables() != 0)
         throw RuntimeError(5, "Could not link to project database '" + path + "'");
     SetPopulationFlags();

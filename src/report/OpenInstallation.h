@@ -11,7 +11,7 @@
 void openInstallation(const std::string& folder);
 
 /// Opens a project as the main window does: the file is proved to be one before anything in it is changed, then
-/// OpenProjectDatabase, the account, the links to the system map database and the population flags.
+/// OpenProjectDatabase, the account and its groups, the links to the system map database and the population flags.
 /// Throws DatabaseError naming the path, or RuntimeError where the file is no project or holds no calls.
 void openProject(const std::string& path);
 

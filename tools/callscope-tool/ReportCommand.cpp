@@ -3,6 +3,8 @@
 #include "core/cPathControl.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
+#include "groups/ChangedGroups.h"
+#include "groups/UpdateCustomerGroups.h"
 #include "map/MapFormState.h"
 #include "map/MapMeasures.h"
 #include "map/ReportPicture.h"
@@ -11,11 +13,14 @@
 #include "map/surface/MapSurface.h"
 #include "map/workbook/DataStatement.h"
 #include "map/workbook/Workbook.h"
+#include "report/CaptureProject.h"
+#include "report/CaptureRow.h"
 #include "report/OpenInstallation.h"
 #include "report/ReportRun.h"
 #include "stats/FigureEngine.h"
 #include "stats/ProjectCalls.h"
 #include "stats/SelectionState.h"
+#include "tools/callscope-tool/AgreeingPrompts.h"
 #include "tools/callscope-tool/Commands.h"
 #include "tools/callscope-tool/ReportOptions.h"
 #include "tools/callscope-tool/TextOutput.h"
@@ -31,6 +36,8 @@
 #include <iostream>
 
 namespace {
+
+constexpr long customerGroupsCode = 5;
 
 /// Names and lengths of the stages of a run, shown at its end.
 class StageTimes {
@@ -186,6 +193,41 @@ void startPainting() {
     gsFontName = "Calibri";
 }
 
+/// A wanted engine counts anew what the report shows; otherwise figures that are there already are good.
+void capture(long boundary) {
+    if (figureEngine() == FigureEngine::Automatic) {
+        captureUnlessCaptured();
+        return;
+    }
+    forgetCapture();
+    if (boundary == customerGroupsCode)
+        captureProject(); // groups are made of the areas of another boundary
+    else
+        countWholeProject(boundary);
+}
+
+const char* engineWord() {
+    switch (usedFigureEngine()) {
+    case FigureEngine::Scan:
+        return "scan";
+    case FigureEngine::Statements:
+        return "statements";
+    case FigureEngine::Automatic:
+        break;
+    }
+    return "none, the figures were there";
+}
+
+/// What Callscope has changed in the groups is applied before they are drawn.
+void updateGroups() {
+    const AgreeingPrompts agreeing;
+    const long result = ModData_UpdateCustomerGroups({}, {}, {});
+    if (result == UserStopped)
+        throw RuntimeError(5, "The Customer Groups cannot be shown");
+    if (result != 0)
+        throw RuntimeError(5, "Could not update Customer Groups");
+}
+
 int runReportCommand(const ReportOptions& options) {
     setFigureEngine(engineNamed(options.engine));
     const long mapType = mapTypeNamed(options.mapType);
@@ -198,9 +240,11 @@ int runReportCommand(const ReportOptions& options) {
     const ReportParameters parameters = options.parameters(wholeProject());
     if (parameters.DTEnd.days < parameters.DTStart.days)
         throw RuntimeError(5, "Invalid date selection, report abandoned");
-    if (figureEngine() != FigureEngine::Statements)
+    if (figureEngine() != FigureEngine::Statements && (figureEngine() == FigureEngine::Scan || !isCaptured()))
         times.measure("columns", [] { projectCalls(); });
-    times.measure("capture", [&] { countWholeProject(options.boundaryCode()); });
+    times.measure("capture", [&] { capture(options.boundaryCode()); });
+    if (options.boundaryCode() == customerGroupsCode)
+        times.measure("groups", updateGroups);
     requireWantedEngine();
     ReportFigures figures;
     times.measure("figures", [&] { figures = runReport(options.boundaryCode(), parameters); });
@@ -219,8 +263,7 @@ int runReportCommand(const ReportOptions& options) {
     if (!options.xlsx.empty())
         writeXlsx(options, parameters, figures, png);
     showFigures(options, figures, map, mapType);
-    std::cout << "engine      " << (usedFigureEngine() == FigureEngine::Scan ? "scan" : "statements") << '\n'
-              << times.lines();
+    std::cout << "engine      " << engineWord() << '\n' << times.lines();
     return Done;
 }
 
