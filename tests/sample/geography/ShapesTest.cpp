@@ -70,13 +70,13 @@ TEST(Shapes, RingsAreClosedAndOriented) {
 }
 
 TEST(Shapes, PartsAreValidPolygonsAndLabelsStandInTheLargest) {
-    const Geos geos;
+    const sample::Geos geos;
     for (const Boundary& boundary : boundaries(sharedGeography())) {
         for (const Area& area : boundary.areas) {
             for (auto begin = area.rings.begin(); begin != area.rings.end();) {
                 const auto end = std::find_if(begin + 1, area.rings.end(),
                                               [](const Ring& ring) { return signedArea(ring.vertices) > 0; });
-                const Geos::Geometry part = geos.polygon({begin, end});
+                const sample::Geos::Geometry part = geos.polygon({begin, end});
                 EXPECT_EQ(GEOSisValid_r(geos.handle(), part.get()), 1) << boundary.name << ": " << area.name;
                 if (begin == area.rings.begin()) {
                     EXPECT_TRUE(ringHolds(begin->vertices, area.label)) << boundary.name << ": " << area.name;
