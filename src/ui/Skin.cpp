@@ -2,19 +2,19 @@
 
 #include "core/ModDeclarations.h"
 #include "ui/AppIcon.h"
+#include "ui/SkinStyle.h"
 #include "ui/StyleSheet.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QWidget>
 
 namespace {
 
 QPalette paletteOf(const cColours_CS& colours) {
     const QColor text = toColor(colours.Grey(6));
-    const QColor faint = toColor(colours.Grey(4));
+    const QColor faint = toColor(colours.Grey(5)); // still readable; fields and buttons change their fill as well
     QPalette palette(toColor(colours.Grey(2)), toColor(colours.Grey(1)));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, text);
@@ -38,7 +38,7 @@ cColours_CS skinColours() {
 
 void applySkin(QApplication& application) {
     const cColours_CS colours = skinColours();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new SkinStyle);
     QApplication::setPalette(paletteOf(colours));
     application.setStyleSheet(styleSheet(colours));
     QApplication::setWindowIcon(appIcon());

@@ -17,31 +17,11 @@ constexpr int signSide = 18;
 constexpr int widestText = 320;
 constexpr double radius = 6.0;
 
-struct SignLook {
-    const char* letter;
-    QColor colour;
-};
-
-SignLook lookOf(clsTooltip::Sign sign) {
-    const cColours_CS colours = skinColours();
-    switch (sign) {
-    case clsTooltip::Sign::Information:
-        return {"i", toColor(colours.Indigo(5))};
-    case clsTooltip::Sign::Warning:
-        return {"!", toColor(colours.Coral(6))};
-    case clsTooltip::Sign::Error:
-        return {"\u00D7", toColor(colours.Coral(6))};
-    case clsTooltip::Sign::None:
-        break;
-    }
-    return {"", QColor()};
-}
-
 } // namespace
 
 TipBalloon::TipBalloon(const clsTooltip& tip, const QRect& thing, int targetX, QWidget* parent)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput), title_(tip.Title),
-      text_(tip.TipText), sign_(QString::fromUtf8(lookOf(tip.Icon).letter)), signColour_(lookOf(tip.Icon).colour),
+      text_(tip.TipText), sign_(tip.Icon),
       fore_(tip.ForeColor.isValid() ? tip.ForeColor : toColor(skinColours().Grey(6))),
       back_(tip.BackColor.isValid() ? tip.BackColor : QColor(Qt::white)),
       tail_(tip.Style == clsTooltip::Shape::Balloon ? tailHeight : 0) {
@@ -61,7 +41,7 @@ QFont TipBalloon::titleFont() const {
 void TipBalloon::measure() {
     const QRect room(0, 0, widestText, QWIDGETSIZE_MAX);
     const QSize text = fontMetrics().boundingRect(room, Qt::TextWordWrap, text_).size();
-    const int signRoom = sign_.isEmpty() ? 0 : signSide + 8;
+    const int signRoom = sign_ == Sign::None ? 0 : signSide + 8;
     const bool hasHead = !title_.isEmpty() || signRoom > 0;
     const QFontMetrics bold(titleFont());
     const int headWidth = hasHead ? signRoom + bold.horizontalAdvance(title_) : 0;
@@ -94,7 +74,7 @@ void TipBalloon::buildOutline(int tailX) {
     outline_ = QPainterPath();
     outline_.addRoundedRect(box, radius, radius);
     if (tail_ > 0) {
-        const double root = above_ ? box.bottom() : box.top();
+        const double root = above_ ? box.bottom() - 1 : box.top() + 1; // within the box, so that the two become one
         const double tip = above_ ? root + tail_ : root - tail_;
         QPainterPath tail;
         tail.addPolygon(QPolygonF{{tailX - tail_ * 1.0, root}, {tailX * 1.0, tip}, {tailX + tail_ * 1.0, root}});
@@ -112,15 +92,8 @@ void TipBalloon::paintEvent(QPaintEvent*) {
     painter.setPen(QPen(toColor(skinColours().Grey(4)), 1));
     painter.setBrush(back_);
     painter.drawPath(outline_);
-    if (!sign_.isEmpty()) {
-        const QRect circle(margin, titleRoom_.top() + (titleRoom_.height() - signSide) / 2, signSide, signSide);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(signColour_);
-        painter.drawEllipse(circle);
-        painter.setPen(Qt::white);
-        painter.setFont(titleFont());
-        painter.drawText(circle, Qt::AlignCenter, sign_);
-    }
+    paintSign(painter, QRect(margin, titleRoom_.top() + (titleRoom_.height() - signSide) / 2, signSide, signSide),
+              sign_);
     painter.setPen(fore_);
     painter.setFont(titleFont());
     painter.drawText(titleRoom_, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, title_);

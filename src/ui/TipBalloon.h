@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Sign.h"
+
 #include <QPainterPath>
 #include <QWidget>
 
@@ -24,8 +26,8 @@ private:
     QFont titleFont() const;
 
     QString title_, text_;
-    QString sign_;
-    QColor signColour_, fore_, back_;
+    Sign sign_;
+    QColor fore_, back_;
     int tail_; ///< height of the tail; 0: none
     bool above_ = false;
     QRect titleRoom_, textRoom_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/Sign.h"
+
 #include <QColor>
 #include <QObject>
 #include <QPointer>
@@ -15,7 +17,6 @@ class clsTooltip : public QObject {
 
 public:
     enum class Shape { Standard = 0, Balloon = 1 };
-    enum class Sign { None = 0, Information = 1, Warning = 2, Error = 3 };
 
     explicit clsTooltip(QObject* parent = nullptr);
     ~clsTooltip() override;

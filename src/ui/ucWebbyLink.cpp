@@ -10,10 +10,12 @@
 #include <QStyle>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double cornerRadius = 6.0;
-constexpr int longestLine = 640; ///< a wrapped caption is not wider than this unless its window says so
+constexpr int longestLine = 280; ///< a wrapped caption is not wider than this unless its window says so
 
 /// The caption as it is read: without the signs for mnemonics.
 QString spoken(const QString& caption) {
@@ -103,7 +105,8 @@ void ucWebbyLink::setBackColour(const QColor& colour) {
 
 void ucWebbyLink::setAutosize(bool on) {
     autosize_ = on;
-    QSizePolicy policy(on ? QSizePolicy::Maximum : QSizePolicy::Preferred, QSizePolicy::Fixed, QSizePolicy::PushButton);
+    QSizePolicy policy(on ? QSizePolicy::Maximum : QSizePolicy::Preferred,
+                       wordWrap_ ? QSizePolicy::Minimum : QSizePolicy::Fixed, QSizePolicy::PushButton);
     policy.setHeightForWidth(wordWrap_);
     setSizePolicy(policy);
     Refresh();
@@ -157,7 +160,8 @@ QSize ucWebbyLink::textSize(int width) const {
 
 QSize ucWebbyLink::sizeHint() const {
     const QMargins around = padding();
-    return textSize(longestLine).grownBy(around);
+    const int widest = std::min(longestLine, maximumWidth() - around.left() - around.right());
+    return textSize(widest).grownBy(around);
 }
 
 QSize ucWebbyLink::minimumSizeHint() const {
