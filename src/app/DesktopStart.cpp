@@ -1,13 +1,41 @@
 #include "app/DesktopStart.h"
 
+#include "app/ProjectLinks.h"
+#include "app/ReportRequest.h"
 #include "core/CommandLine.h"
+#include "core/FileNames.h"
+#include "core/ModDeclarations.h"
+#include "core/Prompts.h"
+#include "core/cPathControl.h"
 #include "data/project/OpenProjectDatabase.h"
 #include "data/project/UpdateMappingGISTable.h"
 #include "data/upkeep/CheckForNewUKMapDB.h"
 #include "report/FrmMain.h"
+#include "report/ModUtilities_OpenMap.h"
 #include "ui/InterfaceFont.h"
 
 #include <QApplication>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QProgressBar>
+#include <QUrl>
+
+namespace {
+
+void openHelp() {
+    const std::string folder = gPaths ? gPaths->ApplicationRootPath : std::string();
+    const std::string file = fileInFolder(folder, "CALLSCOPEMAPPING.chm");
+    const bool opened = fileExists(folder, "CALLSCOPEMAPPING.chm") &&
+                        QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
+    if (!opened)
+        showMessage("The help file cannot be opened: " + file, PromptStyle::Information);
+}
+
+void sayNotBuilt(const char* what) {
+    showMessage(std::string(what) + " is not part of this program yet.", PromptStyle::Information);
+}
+
+} // namespace
 
 DesktopStart::DesktopStart(const std::string& pathsFolder, std::vector<std::string> arguments)
     : instance_(pathsFolder), arguments_(std::move(arguments)) {}
@@ -29,7 +57,24 @@ std::string DesktopStart::commandLine() {
 void DesktopStart::showMainWindow() {
     applyInterfaceFont();
     mainWindow_ = std::make_unique<FrmMain>();
+    connectMainWindow();
     mainWindow_->show();
+}
+
+void DesktopStart::connectMainWindow() {
+    FrmMain* window = mainWindow_.get();
+    links_ = std::make_unique<ProjectLinks>(*window);
+    progress_.showReportOn(window->Label8(), window->Prog1());
+    // Once the list is done with the click: opening a project fills it anew.
+    QObject::connect(
+        window, &FrmMain::historyRowChosen, window, [this](int row) { links_->openRow(row); }, Qt::QueuedConnection);
+    QObject::connect(window, &FrmMain::reportRequested, window,
+                     [window](int index) { runRequestedReport(*window, index); });
+    QObject::connect(window, &FrmMain::helpRequested, window, openHelp);
+    QObject::connect(window, &FrmMain::populationFiguresRequested, window,
+                     [] { sayNotBuilt("The editor of population figures"); });
+    QObject::connect(window, &FrmMain::userGuideRequested, window, [] { sayNotBuilt("The printing of the guide"); });
+    QObject::connect(window, &FrmMain::saveGuideRequested, window, [] { sayNotBuilt("The saving of the guide"); });
 }
 
 bool DesktopStart::mainWindowIsOpen() const {
@@ -49,5 +94,5 @@ int DesktopStart::ModUtilities_UpdateMappingGISTable(Database& project) {
 }
 
 void DesktopStart::ModUtilities_OpenMap() {
-    mainWindow_->showProject();
+    ::ModUtilities_OpenMap(*links_);
 }

@@ -2,12 +2,14 @@
 
 #include "app/SingleInstance.h"
 #include "app/StartActions.h"
+#include "ui/WindowProgress.h"
 
 #include <memory>
 #include <string>
 #include <vector>
 
 class FrmMain;
+class ProjectLinks;
 
 /// The start on a desktop: real windows, and the procedures of the other rooms.
 class DesktopStart : public StartActions {
@@ -29,7 +31,11 @@ public:
     void ModUtilities_OpenMap() override;
 
 private:
+    void connectMainWindow();
+
     SingleInstance instance_;
     std::vector<std::string> arguments_;
+    WindowProgress progress_;
     std::unique_ptr<FrmMain> mainWindow_;
+    std::unique_ptr<ProjectLinks> links_;
 };

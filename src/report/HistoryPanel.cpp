@@ -39,7 +39,7 @@ void HistoryPanel::addHeading() {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 12, 8, 8);
     column->setSpacing(4);
-    auto* heading = new QLabel(tr("&Projects"), this);
+    auto* heading = new QLabel(tr("Pro&jects"), this);
     heading->setProperty("role", "section");
     heading->setContentsMargins(12, 0, 0, 4);
     heading->setBuddy(LstHistory);

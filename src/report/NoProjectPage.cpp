@@ -1,6 +1,8 @@
 #include "report/NoProjectPage.h"
 
+#include "report/panels/ReportButtons.h"
 #include "ui/Globe.h"
+#include "ui/ucWebbyLink.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -41,6 +43,7 @@ NoProjectPage::NoProjectPage(QWidget* parent) : ucWebbyBorder(parent) {
     column->addWidget(headline);
     column->addSpacing(4);
     addSteps(*column);
+    addButton(*column);
 
     auto* middle = new QHBoxLayout;
     middle->addStretch(1);
@@ -74,6 +77,14 @@ void NoProjectPage::addSteps(QVBoxLayout& column) {
     row->addWidget(steps, 1000);
     row->addStretch(1);
     column.addLayout(row);
+}
+
+void NoProjectPage::addButton(QVBoxLayout& column) {
+    ucWebbyLink* button = ReportButtons::makeButton(ReportButtons::chooseProject, tr("Choo&se a project"), this);
+    button->setKind(ucWebbyLink::Kind::Primary);
+    connect(button, &ucWebbyLink::clicked, this, [this] { emit reportRequested(ReportButtons::chooseProject); });
+    column.addSpacing(8);
+    column.addWidget(button, 0, Qt::AlignHCenter);
 }
 
 void NoProjectPage::addStep(QGridLayout& grid, const QString& text) {

@@ -12,7 +12,11 @@ class NoProjectPage : public ucWebbyBorder {
 public:
     explicit NoProjectPage(QWidget* parent = nullptr);
 
+signals:
+    void reportRequested(int index); ///< of the button that asks for a project
+
 private:
+    void addButton(QVBoxLayout& column);
     void addPicture(QVBoxLayout& column);
     void addSteps(QVBoxLayout& column);
     void addStep(QGridLayout& grid, const QString& text);

@@ -23,14 +23,6 @@ ReportStatus::ReportStatus(QWidget* parent)
         part->setSizePolicy(policy);
     }
     setFixedHeight(28);
-    setRunning(false);
-}
-
-void ReportStatus::setRunning(bool running) {
-    Label8->setVisible(running);
-    Prog1->setVisible(running);
-}
-
-void ReportStatus::setText(const QString& text) {
-    Label8->setText(text);
+    Label8->hide();
+    Prog1->hide();
 }

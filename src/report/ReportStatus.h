@@ -13,9 +13,7 @@ class ReportStatus : public QWidget {
 public:
     explicit ReportStatus(QWidget* parent = nullptr);
 
-    /// Shows or hides text and bar.
-    void setRunning(bool running);
-    void setText(const QString& text);
+    QLabel* text() const { return Label8; }
     QProgressBar* bar() const { return Prog1; }
 
 private:

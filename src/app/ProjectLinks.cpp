@@ -1,0 +1,70 @@
+#include "app/ProjectLinks.h"
+
+#include "core/ModDeclarations.h"
+#include "core/cPathControl.h"
+#include "report/FrmMain.h"
+#include "report/FrmMain_lsthistory_click.h"
+#include "ui/FrmMessage.h"
+
+#include <QFileDialog>
+#include <QListWidget>
+
+void ProjectLinks::openRow(int row) {
+    QListWidget* list = window_.LstHistory();
+    if (!list->isEnabled())
+        return;
+    list->setEnabled(false);
+    FrmMain_lsthistory_click(*this, row + 1);
+    list->setEnabled(true);
+    list->setFocus();
+}
+
+void ProjectLinks::showProjectName(const std::string& text) {
+    window_.showProjectName(text);
+}
+
+void ProjectLinks::readHistory() {
+    window_.readHistory();
+}
+
+void ProjectLinks::EnableForm() {
+    window_.EnableForm();
+}
+
+void ProjectLinks::DisableForm() {
+    window_.DisableForm();
+}
+
+void ProjectLinks::Setup_Dates() {
+    window_.Setup_Dates();
+}
+
+void ProjectLinks::Setup_Location_List() {
+    window_.Setup_Location_List();
+}
+
+void ProjectLinks::Setup_Inbound_List() {
+    window_.Setup_Inbound_List();
+}
+
+void ProjectLinks::resetChoices() {
+    window_.resetChoices();
+}
+
+void ProjectLinks::restoreMultiMaps(const MultiMapSettings& settings) {
+    window_.restoreMultiMaps(settings);
+}
+
+std::optional<std::string> ProjectLinks::chooseProject(const std::string& suggested) {
+    const std::string start = !suggested.empty() ? suggested : gPaths ? gPaths->ProjectDataPath : std::string();
+    const QString chosen =
+        QFileDialog::getOpenFileName(&window_, FrmMain::tr("Open a project"), QString::fromStdString(start),
+                                     FrmMain::tr("MS Access Files (*.MDB *.mdb)"));
+    if (chosen.isEmpty())
+        return std::nullopt;
+    return chosen.toStdString();
+}
+
+void ProjectLinks::showCapture(const std::function<void()>& work) {
+    FrmMessage(work, &window_).run();
+}
