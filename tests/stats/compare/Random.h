@@ -1,9 +1,6 @@
 #pragma once
 
-#include <initializer_list>
-#include <optional>
 #include <random>
-#include <string>
 #include <vector>
 
 /// The same choices for the same seed, on every machine.
