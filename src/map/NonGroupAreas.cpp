@@ -48,7 +48,7 @@ void ThematicMap::FrmMap_DisplayNonGroupAreas(long mapType, int dataSet) {
                        " = tblGroup_Link.reference AND (tblGroup_Link.Groupname = '' OR tblGroup_Link.groupname IS "
                        "Null) AND (TBLGROUP_LINK.TALLYACCOUNT = '" +
                        gsAccount + "')";
-    layer.LayerFields = name + ", " + key + ", " + table + "." + column;
+    layer.LayerFields = name + ", " + key + (column.empty() ? "" : ", " + table + "." + column);
     layer.LayerLabelSource = name;
     layer.LayerCheckForOverlap = true;
     layer.LayerVisible = true;
@@ -74,7 +74,8 @@ void ThematicMap::FrmMap_AddIreland() {
 }
 
 const Boundary& ThematicMap::baseBoundary() const {
-    return *findBoundary(form_.groupBaseGeography); // geographies carry the codes of their boundaries
+    const int geography = form_.groupBaseGeography; // carries the code of its boundary
+    return *findBoundary(geography == PostcodeDistricts || geography == Csgs ? geography : TvRegions);
 }
 
 /// Appends a layer of unfilled areas, which show as white land, and makes it current.

@@ -16,12 +16,14 @@ namespace {
 
 // Pixels of a picture of 1400 x 1000; other sizes scale them.
 constexpr QSize DesignSize(1400, 1000);
+constexpr QSize SmallestPicture(2, 2);
 constexpr double PanelWidth = 320.0;
 constexpr double Padding = 24.0;
 constexpr double CardPadding = 16.0;
 constexpr double CardRadius = 8.0;
 constexpr double Gap = 8.0;
 constexpr double SmallestRatio = 0.35;
+constexpr double SmallestKeyFit = 0.5;
 
 constexpr double TitlePoints = 17.0;
 constexpr double SmallestTitlePoints = 13.0;
@@ -81,16 +83,23 @@ public:
         y_ += used.height();
     }
 
+    /// As large as the other words, or smaller where the panel has less room than the whole key needs.
     void key(const MapKey& key) {
-        const QSizeF needed = key.neededSize(ratio_);
         const double padding = CardPadding * ratio_;
+        const QSizeF wanted = key.neededSize(ratio_);
+        if (wanted.isEmpty())
+            return;
+        const double fit =
+            std::min((width_ - 2.0 * padding) / wanted.width(), (bottom_ - y_ - 2.0 * padding) / wanted.height());
+        const double ratio = ratio_ * std::clamp(fit, SmallestKeyFit, 1.0);
+        const QSizeF needed = key.neededSize(ratio);
         const QRectF card(left_, y_, std::max(width_, needed.width() + 2.0 * padding), needed.height() + 2.0 * padding);
         painter_.setPen(QPen(BorderColour, ratio_));
         painter_.setBrush(Qt::white);
         painter_.drawRoundedRect(card, CardRadius * ratio_, CardRadius * ratio_);
         painter_.save();
         painter_.translate(card.left() + padding, card.top() + padding);
-        key.paint(painter_, ratio_);
+        key.paint(painter_, ratio);
         painter_.restore();
         y_ = card.bottom();
     }
@@ -153,19 +162,27 @@ QSize reportMapSize(QSize pictureSize) {
     return {pictureSize.width() - panelWidth(pictureSize), pictureSize.height()};
 }
 
-QImage drawReportPicture(MapSurface& surface, const MapKey& key, const MapFormState& form, const ReportCaption& caption,
-                         QSize pictureSize) {
-    pictureSize = pictureSize.expandedTo(QSize(2, 2));
-    const int panel = panelWidth(pictureSize);
+void prepareReportMap(MapSurface& surface, QSize pictureSize) {
+    pictureSize = pictureSize.expandedTo(SmallestPicture);
     surface.style.devicePixelRatio = ratioOf(pictureSize);
     surface.setPixelSize(reportMapSize(pictureSize));
+}
+
+QImage drawReportPicture(MapSurface& surface, const MapKey& key, const MapFormState& form, const ReportCaption& caption,
+                         QSize pictureSize) {
+    pictureSize = pictureSize.expandedTo(SmallestPicture);
+    const int panel = panelWidth(pictureSize);
+    const bool sameSharpness = surface.style.devicePixelRatio == ratioOf(pictureSize);
+    prepareReportMap(surface, pictureSize);
     surface.setLayerIndex(0);
     try {
         surface.ZoomToExtent();
     } catch (const RuntimeError&) {
         // Nothing to show whole; the draw says why where it cannot read the layer.
     }
-    surface.DrawMap();
+    const bool isDrawn = sameSharpness && !surface.picture().isNull() && surface.drawn().camera == surface.camera();
+    if (!isDrawn)
+        surface.DrawMap();
 
     QImage picture(pictureSize, QImage::Format_RGB32);
     picture.fill(PanelColour);

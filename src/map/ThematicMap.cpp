@@ -5,13 +5,13 @@
 #include "core/Progress.h"
 #include "core/Prompts.h"
 #include "data/engine/Database.h"
+#include "map/BandSymbols.h"
 #include "map/ClassBreaks.h"
 #include "map/MapMeasures.h"
 #include "map/SystemMapSource.h"
 #include "map/surface/LayerSource.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
-#include "ui/cColours_CS.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,11 +27,6 @@ constexpr MapColourCode Unclassified = 0x80FFFF;
 
 constexpr const char* KeyLayer = "Map Colour Key";
 constexpr const char* NonGroupLayer = "Non Group Geography";
-
-MapColourCode bandColour(std::size_t band) {
-    const Colour colour = (gColours ? *gColours : cColours_CS()).MapColour(static_cast<int>(band));
-    return swapRedAndBlue(colour);
-}
 
 /// The value of a read-out; 0 where it is empty.
 double numberInReadOut(const std::string& text) {
@@ -96,7 +91,8 @@ bool ThematicMap::CreateMap(long boundary, long mapType, int dataSet) {
     setUpBaseLayer(plan);
     if (plan.bands.empty())
         logAndGoOn([&] { plan.bands = valuesOfColumn(plan); });
-    logAndGoOn([&] { buildBands(plan); });
+    logAndGoOn(
+        [&] { buildBandSymbols(surface_, splitBandList(plan.bands), plan.unitSign, boundary == CustomerGroups); });
     if (boundary == CustomerGroups)
         FrmMap_DisplayNonGroupAreas(mapType, dataSet);
     AddLabelLayer(boundary);
@@ -144,6 +140,7 @@ ThematicMap::Plan ThematicMap::planOf(long boundary, long mapType, int dataSet) 
 void ThematicMap::deleteUpperLayers() {
     while (surface_.NumberOfLayers() >= 2) {
         surface_.setLayerIndex(surface_.NumberOfLayers() - 1);
+        surface_.CloseLayerSource(surface_.LayerIndex());
         surface_.DeleteLayer();
     }
 }
@@ -215,51 +212,6 @@ std::string ThematicMap::valuesOfColumn(const Plan& plan) const {
         list += (list.empty() ? "" : ",") + text.substr(begin, end - std::min(begin, end));
     }
     return list;
-}
-
-void ThematicMap::buildBands(const Plan& plan) {
-    const std::vector<std::string> texts = splitBandList(plan.bands);
-    if (texts.empty())
-        return;
-    if (isNumericText(texts.front()))
-        buildNumericBands(plan, texts);
-    else
-        buildTextBands(texts);
-}
-
-void ThematicMap::buildNumericBands(const Plan& plan, const std::vector<std::string>& breaks) {
-    const std::vector<NumericBand> bands = numericBands(breaks, plan.unitSign);
-    for (std::size_t i = 0; i < bands.size(); ++i) {
-        if (i > 0)
-            surface_.AddSymbol();
-        surface_.setSymbolIndex(surface_.NumberOfSymbols() - 1);
-        surface_.layer().LayerLinkType = SymbolLink::NumericRange;
-        Symbol& symbol = surface_.symbol();
-        symbol.SymbolLabelFont = {gsFontName, LabelSize};
-        symbol.SymbolName = bands[i].name;
-        symbol.SymbolNumericRangeFrom = bands[i].from;
-        symbol.SymbolNumericRangeTo = bands[i].to;
-        symbol.SymbolFilled = true;
-        if (plan.code != CustomerGroups)
-            symbol.SymbolEnableLabels = false; // the names have a layer of their own
-        symbol.SymbolPolygonColor = bandColour(i);
-    }
-}
-
-void ThematicMap::buildTextBands(const std::vector<std::string>& texts) {
-    surface_.layer().LayerLinkType = SymbolLink::Text;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        if (i > 0)
-            surface_.AddSymbol();
-        surface_.setSymbolIndex(surface_.NumberOfSymbols() - 1);
-        Symbol& symbol = surface_.symbol();
-        symbol.SymbolName = texts[i];
-        symbol.SymbolStringEquals = texts[i];
-        symbol.SymbolFilled = true;
-        symbol.SymbolEnableLabels = false;
-        logAndGoOn([&] { symbol.SymbolPolygonColor = bandColour(i); });
-    }
-    surface_.symbol().SymbolFilled = false;
 }
 
 void ThematicMap::captureView() {

@@ -6,10 +6,10 @@
 #include "stats/MapMaxima.h"
 
 #include <string>
-#include <vector>
 
 class MapKey;
 class MapSurface;
+class Recordset;
 
 /// Turns a choice of boundary, map type and data set into the layers of a map surface, its key, and the read-outs of
 /// the window. Reads the statistics from gdbSystem and the tables that `currentTables` names. A failing step is logged
@@ -29,6 +29,13 @@ public:
     void FrmMap_DisplayNonGroupAreas(long mapType, int dataSet);
     void FrmMap_AddIreland();
 
+    /// Writes the Value of every row of `values` to the row of its RegionID in tblValues, behind the current layer, and
+    /// draws the map. Regions that tblValues does not have are passed over.
+    void ApplyValues(Recordset& values);
+    /// Moves the view to the centre of an area of the current layer and draws the map; does nothing where there is
+    /// none.
+    void HighlightEntity(long polygonId);
+
 private:
     struct Plan; // the names that a map is built from
 
@@ -37,9 +44,6 @@ private:
     void readExtremes(const Plan& plan);
     void enableDensities(long boundary);
     void setUpBaseLayer(const Plan& plan);
-    void buildBands(const Plan& plan);
-    void buildNumericBands(const Plan& plan, const std::vector<std::string>& breaks);
-    void buildTextBands(const std::vector<std::string>& texts);
     std::string valuesOfColumn(const Plan& plan) const;
     void captureView();
     void showPeriod();

@@ -78,6 +78,7 @@ void describeMap(DrawnMap& map, const ReportOptions& options, const ReportParame
     map.form.periods.MapStartTime[1] = parameters.DTStartTime[0];
     map.form.periods.MapEndTime[1] = parameters.DTStartTime[1];
     map.key.font.family = gsFontName;
+    prepareReportMap(map.surface, QSize(options.width(), options.height()));
     ThematicMap(map.surface, map.key, map.form, currentTables, mapMaxima).CreateMap(options.boundaryCode(), mapType, 1);
 }
 

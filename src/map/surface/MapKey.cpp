@@ -1,6 +1,7 @@
 #include "map/surface/MapKey.h"
 
-#include "map/surface/LabelPainter.h"
+#include "map/surface/LabelFace.h"
+#include "map/surface/MapStyle.h"
 #include "map/surface/MapSurface.h"
 
 #include <QFontMetricsF>
@@ -84,6 +85,12 @@ void MapKey::RebuildKey() {
             section.entries.push_back({symbol.SymbolName, symbol.SymbolPolygonColor, symbol.SymbolFilled});
         sections_.push_back(std::move(section));
     }
+    Refresh();
+}
+
+void MapKey::Refresh() const {
+    if (Repaint)
+        Repaint();
 }
 
 QSizeF MapKey::neededSize(double devicePixelRatio) const {

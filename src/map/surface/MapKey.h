@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QSizeF>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,7 +32,10 @@ public:
 
     explicit MapKey(const MapSurface& surface);
 
+    std::function<void()> Repaint; ///< what RebuildKey and Refresh ask of the window that shows the key
+
     void RebuildKey();
+    void Refresh() const;
     const std::vector<Section>& sections() const { return sections_; }
 
     /// Typeface and size in points of the names; titles are bold and a little larger.
