@@ -1,4 +1,5 @@
 #include "tests/data/engine/ReliabilityScene.h"
+#include "tests/support/ForkedTrial.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
@@ -9,15 +10,9 @@
 #include <iostream>
 #include <optional>
 #include <random>
-#include <thread>
-
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
 using Microseconds = std::chrono::microseconds;
 
 constexpr int calls = 4000;
@@ -28,56 +23,16 @@ int trialsWanted() {
     return text ? std::atoi(text) : 216;
 }
 
-/// A process that opens the file, says so, makes the change and says so. Killed where a delay is given.
-struct Trial {
-    bool finished = false;
-    Microseconds took{};
-};
-
-[[noreturn]] void changeInChild(const std::string& path, const FileKind& kind, const Change& change, int cachePages,
-                                int report) {
-    char byte = 'x';
-    try {
-        const auto database = openAlone(path, kind.connect, cachePages);
-        database->tableDefs().count();
-        (void)!::write(report, &byte, 1);
-        change.run(*database);
-        (void)!::write(report, &byte, 1);
-        database->close();
-    } catch (const std::exception&) {
-        _exit(3); // the pipe then ends early
-    }
-    _exit(0);
-}
-
 Trial attempt(const std::string& path, const FileKind& kind, const Change& change, int cachePages,
               std::optional<Microseconds> killAfter) {
-    int report[2];
-    if (pipe(report) != 0)
-        throw std::runtime_error("no pipe");
-    const pid_t child = fork();
-    if (child == 0) {
-        ::close(report[0]);
-        changeInChild(path, kind, change, cachePages, report[1]);
-    }
-    ::close(report[1]);
-    char byte = 0;
-    const bool opened = ::read(report[0], &byte, 1) == 1;
-    const auto start = Clock::now();
-    Trial trial;
-    if (killAfter) {
-        while (Clock::now() - start < *killAfter)
-            std::this_thread::sleep_for(Microseconds(50));
-        kill(child, SIGKILL);
-    }
-    trial.finished = opened && ::read(report[0], &byte, 1) == 1;
-    trial.took = std::chrono::duration_cast<Microseconds>(Clock::now() - start);
-    ::close(report[0]);
-    int status = 0;
-    waitpid(child, &status, 0);
-    if (!opened || (!killAfter && !trial.finished))
-        throw std::runtime_error(std::string(change.name) + " does not run");
-    return trial;
+    const auto work = [&](const std::function<void()>& ready) {
+        const auto database = openAlone(path, kind.connect, cachePages);
+        database->tableDefs().count();
+        ready();
+        change.run(*database);
+        database->close();
+    };
+    return runInChild(work, killAfter);
 }
 
 /// One change on one kind of file, with what it takes to disturb it.
