@@ -118,8 +118,10 @@ ShapeTable readShapeTable(Database& database, const std::string& table, Coverage
 std::string stampOfShapeTable(Database& database, const std::string& table, CoverageKind kind) {
     const std::string sums = kind == CoverageKind::Polygons
                                  ? "Sum(POLYGONID), Sum(NUMVERT), Sum(NUMPARTS), Sum(BOUNDLOWX), Sum(BOUNDLOWY), "
-                                   "Sum(BOUNDUPPX), Sum(BOUNDUPPY), Sum(CENTERX), Sum(CENTERY)"
-                                 : "Sum(PointID), Sum(XCoord), Sum(YCoord)";
+                                   "Sum(BOUNDUPPX), Sum(BOUNDUPPY), Sum(CENTERX), Sum(CENTERY), "
+                                   // Two areas that have changed places leave all other sums as they are.
+                                   "Sum(POLYGONID * (BOUNDLOWX + 3 * BOUNDUPPY + 7 * NUMVERT))"
+                                 : "Sum(PointID), Sum(XCoord), Sum(YCoord), Sum(PointID * (XCoord + 3 * YCoord))";
     const auto row = database.openRecordset("SELECT Count(*), " + sums + " FROM " + table);
     std::string stamp;
     for (int column = 0; !row->EOF_() && column < row->fieldCount(); ++column)

@@ -153,6 +153,20 @@ TEST_F(MapSurfaceOnFile, ZoomToExtentShowsTheWholeLayer) {
     EXPECT_EQ(surface.MapCenterX(), 150);
 }
 
+TEST_F(MapSurfaceOnFile, AreasThatChangePlacesAreReadAgain) {
+    surface.DrawMap();
+    map.database().execute("UPDATE PGN_TV SET POLYGONID = 99 WHERE POLYGONID = 11");
+    map.database().execute("UPDATE PGN_TV SET POLYGONID = 11 WHERE POLYGONID = 13");
+    map.database().execute("UPDATE PGN_TV SET POLYGONID = 13 WHERE POLYGONID = 99");
+    surface.CloseLayerSource(0);
+    surface.DrawMap();
+    EXPECT_EQ(at(50, 50), QColor(Qt::red)) << "West has its figure by name";
+    EXPECT_EQ(surface.geometry().reads(), 2);
+    const auto west = areaAt(surface.drawn(), {50, 50});
+    ASSERT_TRUE(west);
+    EXPECT_EQ(shapeOf(surface.drawn(), *west).id, 13);
+}
+
 TEST_F(MapSurfaceOnFile, ACommaJoinWithItsOwnConditionDrawsItsAreasOnly) {
     surface.layer().LayerJoins = "PGN_TV,TblTV WHERE PGN_TV.NAME = TblTV.TVRegion AND TblTV.TotalCalls1 > 5";
     surface.DrawMap();

@@ -16,6 +16,7 @@ namespace {
 
 // Interface pixels.
 constexpr double HoverWidth = 2.0;
+constexpr double HoverShare = 12.0; ///< of a small area's side that its outline may be wide
 constexpr double SketchWidth = 2.0;
 constexpr double CornerRadius = 3.5;
 constexpr double TipGap = 14.0;
@@ -141,7 +142,7 @@ void CanvasOverlay::paint(QPainter& painter, const MapSurface& surface, const Ma
     const double ratio = pointer.devicePixelRatio;
     const QSizeF view = surface.camera().pixelSize();
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto& hit = pointer.hover();
+    const std::optional<MapHit> hit = pointer.sketches().current() ? std::nullopt : pointer.hover();
     if (hit)
         paintHover(painter, surface, *hit, ratio);
     paintSketches(painter, surface, pointer);
@@ -153,7 +154,7 @@ void CanvasOverlay::paint(QPainter& painter, const MapSurface& surface, const Ma
     const QPointF centre(view.width() / 2.0, view.height() / 2.0);
     if (pointer.aimsAtCentre())
         paintAim(painter, centre, ratio);
-    if (hit && !pointer.sketches().current())
+    if (hit)
         paintTip(painter, view, pointer.aimsAtCentre() ? centre : pointer.position(),
                  QString::fromStdString(areaName(surface.drawn(), *hit)),
                  QString::fromStdString(areaValue(surface.drawn(), *hit)), ratio);
@@ -163,7 +164,10 @@ void CanvasOverlay::paintHover(QPainter& painter, const MapSurface& surface, con
     const qint64 picture = surface.picture().cacheKey();
     if (!outline_ || outline_->hit != hit || outline_->camera != surface.camera() || picture_ != picture) {
         const QPainterPath path = screenPath(shapeOf(surface.drawn(), hit), surface.camera());
-        const double reach = (HoverWidth + 2.0) * ratio;
+        // A small area would drown in a wide outline.
+        const double side = std::min(path.boundingRect().width(), path.boundingRect().height());
+        const double width = std::clamp(side / HoverShare, ratio, HoverWidth * ratio);
+        const double reach = 2.0 * width;
         const QRect box = path.boundingRect()
                               .adjusted(-reach, -reach, reach, reach)
                               .toAlignedRect()
@@ -175,8 +179,7 @@ void CanvasOverlay::paintHover(QPainter& painter, const MapSurface& surface, con
         ink.setRenderHint(QPainter::Antialiasing);
         ink.translate(-box.topLeft());
         ink.strokePath(path, QPen(QColor(255, 255, 255, 220), reach, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        ink.strokePath(
-            path, QPen(toColor(skinColours().Grey(6)), HoverWidth * ratio, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        ink.strokePath(path, QPen(toColor(skinColours().Grey(6)), width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     }
     painter.drawImage(outline_->corner, outline_->image);
 }

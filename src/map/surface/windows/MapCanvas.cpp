@@ -97,6 +97,7 @@ void MapCanvas::paintEvent(QPaintEvent*) {
         } else {
             const QPointF topLeft = surface_.camera().mapToScreen(shown.screenToMap({0, 0}));
             const double factor = shown.unitsPerPixel() / surface_.camera().unitsPerPixel();
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
             painter.drawImage(QRectF(topLeft, QSizeF(picture.size()) * factor), picture);
         }
     }
