@@ -24,5 +24,9 @@ double contrastRatio(const QColor& a, const QColor& b) {
 
 QColor readableOn(const QColor& back) {
     const QColor dark = toColor(skinColours().Grey(6));
-    return contrastRatio(back, dark) >= contrastRatio(back, Qt::white) ? dark : QColor(Qt::white);
+    if (contrastRatio(back, dark) >= leastTextContrast)
+        return dark;
+    if (contrastRatio(back, Qt::white) >= leastTextContrast)
+        return Qt::white;
+    return Qt::black; // on colours of middling brightness
 }

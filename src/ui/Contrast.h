@@ -8,5 +8,5 @@ double contrastRatio(const QColor& a, const QColor& b);
 
 inline constexpr double leastTextContrast = 4.5;
 
-/// White or the skin's darkest grey, whichever is easier to read on `back`.
+/// The skin's darkest grey, white or black: the first of them that can be read on `back`.
 QColor readableOn(const QColor& back);

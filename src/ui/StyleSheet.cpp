@@ -30,6 +30,7 @@ QPushButton[kind="primary"]:disabled, QPushButton[kind="danger"]:disabled {
     background: <grey2>; color: <grey5>; border-color: <grey3>; }
 QPushButton[kind="danger"] { color: <coral6>; border-color: <coral3>; }
 QPushButton[kind="danger"]:hover { background: <coral1>; border-color: <coral6>; }
+QPushButton[kind="danger"]:pressed { background: <coral2>; }
 QPushButton[kind="danger"]:focus { border-color: <turquoise5>; }
 QMessageBox QPushButton { min-width: 72px; }
 QMessageBox, QDialogButtonBox { dialogbuttonbox-buttons-have-icons: 0; }

@@ -28,6 +28,12 @@ QString spoken(const QString& caption) {
     return text;
 }
 
+/// A darker shade, or a lighter one where the text would not be readable on that.
+QColor shadeOf(const QColor& back, int percent, const QColor& text) {
+    const QColor darker = back.darker(percent);
+    return contrastRatio(darker, text) >= leastTextContrast ? darker : back.lighter(percent);
+}
+
 } // namespace
 
 ucWebbyLink::ucWebbyLink(QWidget* parent) : ucWebbyLink(tr("Unknown"), Kind::Link, parent) {}
@@ -77,7 +83,7 @@ void ucWebbyLink::setColour(const QColor& colour) {
 QColor ucWebbyLink::ColourHighlight() const {
     if (highlight_.isValid())
         return highlight_;
-    return kind_ == Kind::Link && !colour_.isValid() && !back_.isValid() ? toColor(skinColours().Indigo(4)) : Colour();
+    return kind_ == Kind::Link && !colour_.isValid() && !back_.isValid() ? toColor(skinColours().Indigo(6)) : Colour();
 }
 
 void ucWebbyLink::setColourHighlight(const QColor& colour) {
@@ -196,7 +202,7 @@ QColor ucWebbyLink::fill() const {
     if (!pressed && !highlighted())
         return BackColour();
     if (back_.isValid())
-        return back_.darker(pressed ? 112 : 105);
+        return shadeOf(back_, pressed ? 112 : 105, Colour());
     if (kind_ == Kind::Danger)
         return toColor(colours.Coral(pressed ? 2 : 1));
     return toColor(colours.Indigo(pressed ? 2 : 1));

@@ -1,5 +1,6 @@
 #include "ui/FrmMessage.h"
 #include "tests/ui/ModalActions.h"
+#include "ui/Skin.h"
 #include "ui/WindowProgress.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@ QString taskOf(const FrmMessage& window) {
 }
 
 TEST(FrmMessageWindow, ShowsTheProgressOfItsWorkAndClosesItself) {
+    applySkin(*qApp);
     WindowProgress progressOnScreen;
     progress().setTask("too early");
     bool worked = false;

@@ -13,31 +13,10 @@
 #include <QRegularExpression>
 #include <QToolTip>
 
-#include <cmath>
-
 namespace {
-
-double luminance(const QColor& colour) {
-    const auto part = [](double c) { return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4); };
-    return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double la = luminance(a) + 0.05, lb = luminance(b) + 0.05;
-    return std::max(la, lb) / std::min(la, lb);
-}
 
 TEST(Skin, FillsEveryColourOfTheStyleSheet) {
     EXPECT_FALSE(styleSheet(cColours_CS()).contains(QRegularExpression("[<>]")));
-}
-
-TEST(Skin, KeepsTextReadable) {
-    applySkin(*qApp);
-    const QPalette palette = QApplication::palette();
-    EXPECT_GE(contrast(palette.color(QPalette::WindowText), palette.color(QPalette::Window)), 4.5);
-    EXPECT_GE(contrast(palette.color(QPalette::Text), palette.color(QPalette::Base)), 4.5);
-    EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 4.5);
-    EXPECT_GE(contrast(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 4.5);
 }
 
 TEST(Skin, ChangesTheRoleOfAShownLabel) {
