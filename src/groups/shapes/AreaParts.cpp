@@ -1,5 +1,7 @@
 #include "groups/shapes/AreaParts.h"
 
+#include "groups/shapes/ThinBays.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -19,7 +21,7 @@ struct Filled {
     std::vector<Geos::Geometry> filledHoles;
 };
 
-Filled fillThinHoles(const Geos& geos, const GEOSGeometry* polygon, double width) {
+Filled withoutThinHoles(const Geos& geos, const GEOSGeometry* polygon, double width) {
     std::vector<ShapeRing> rings = ringsOf(geos, polygon);
     const auto thin = std::stable_partition(rings.begin() + 1, rings.end(),
                                             [&](const ShapeRing& hole) { return !isThin(hole, width); });
@@ -42,11 +44,30 @@ bool liesInOneOf(const Geos& geos, const std::vector<Geos::Geometry>& holes, con
     });
 }
 
+/// Null where there is nothing to fill, or where the polygon would cross itself.
+Geos::Geometry withoutThinBays(const Geos& geos, const GEOSGeometry* polygon, double width) {
+    std::vector<ShapeRing> rings = ringsOf(geos, polygon);
+    bool changed = false;
+    for (ShapeRing& ring : rings) {
+        ShapeRing filled = withoutThinBays(ring, width);
+        changed = changed || filled.size() != ring.size();
+        ring = std::move(filled);
+    }
+    if (!changed)
+        return {};
+    Geos::Geometry whole = geos.polygon(rings);
+    return isValid(geos, whole.get()) ? std::move(whole) : Geos::Geometry();
+}
+
 bool hasHoles(const Geos& geos, const GEOSGeometry* polygon) {
     return GEOSGetNumInteriorRings_r(geos.handle(), polygon) > 0;
 }
 
 } // namespace
+
+bool isValid(const Geos& geos, const GEOSGeometry* area) {
+    return geos.truth(GEOSisValid_r(geos.handle(), area));
+}
 
 std::vector<const GEOSGeometry*> polygonsOf(const Geos& geos, const GEOSGeometry* geometry) {
     std::vector<const GEOSGeometry*> polygons;
@@ -76,6 +97,11 @@ std::vector<ShapeRing> ringsOf(const Geos& geos, const GEOSGeometry* polygon) {
     const int holes = GEOSGetNumInteriorRings_r(geos.handle(), polygon);
     for (int i = 0; i < holes; ++i)
         rings.push_back(geos.ringOf(GEOSGetInteriorRingN_r(geos.handle(), polygon, i)));
+    for (std::size_t i = 0; i < rings.size(); ++i) {
+        const bool anticlockwise = signedDoubleArea(rings[i]) > 0;
+        if (anticlockwise != (i == 0))
+            std::reverse(rings[i].begin(), rings[i].end());
+    }
     return rings;
 }
 
@@ -85,7 +111,7 @@ ShapeBounds boxOf(const Geos& geos, const GEOSGeometry* geometry) {
     return box;
 }
 
-Geos::Geometry withoutThinHoles(const Geos& geos, Geos::Geometry area, double width) {
+bool fillThinHoles(const Geos& geos, Geos::Geometry& area, double width) {
     const auto polygons = polygonsOf(geos, area.get());
     std::vector<Geos::Geometry> filled;
     std::vector<Geos::Geometry> filledHoles;
@@ -94,12 +120,28 @@ Geos::Geometry withoutThinHoles(const Geos& geos, Geos::Geometry area, double wi
             filled.push_back(geos.own(GEOSGeom_clone_r(geos.handle(), polygon)));
             continue;
         }
-        Filled one = fillThinHoles(geos, polygon, width);
+        Filled one = withoutThinHoles(geos, polygon, width);
         filled.push_back(std::move(one.polygon));
         std::move(one.filledHoles.begin(), one.filledHoles.end(), std::back_inserter(filledHoles));
     }
     if (filledHoles.empty())
-        return area;
+        return false;
     std::erase_if(filled, [&](const Geos::Geometry& polygon) { return liesInOneOf(geos, filledHoles, polygon.get()); });
-    return geos.collect(std::move(filled));
+    area = geos.collect(std::move(filled));
+    return true;
+}
+
+void fillThinBays(const Geos& geos, Geos::Geometry& area, double width) {
+    std::vector<Geos::Geometry> filled;
+    bool changed = false;
+    for (const GEOSGeometry* polygon : polygonsOf(geos, area.get())) {
+        Geos::Geometry whole = withoutThinBays(geos, polygon, width);
+        changed = changed || whole;
+        filled.push_back(whole ? std::move(whole) : geos.own(GEOSGeom_clone_r(geos.handle(), polygon)));
+    }
+    if (!changed)
+        return;
+    Geos::Geometry whole = geos.collect(std::move(filled));
+    if (isValid(geos, whole.get())) // not where an island lies in a bay
+        area = std::move(whole);
 }

@@ -9,7 +9,8 @@
 namespace {
 
 constexpr long internalError = 51;
-constexpr double AreaTolerance = 1e-6; ///< of the area: what rounding may add or take
+constexpr double AreaTolerance = 1e-6;    ///< of the area: what the union of a rough border may add or take
+constexpr double RoundingOfAreas = 1e-12; ///< of the areas
 
 /// As its writer ordered them: an outer ring runs anticlockwise and its holes, clockwise, follow it.
 Geos::Geometry asOrdered(const Geos& geos, const std::vector<ShapeRing>& rings) {
@@ -22,10 +23,6 @@ Geos::Geometry asOrdered(const Geos& geos, const std::vector<ShapeRing>& rings) 
         first = end;
     }
     return geos.collect(std::move(polygons));
-}
-
-bool isValid(const Geos& geos, const GEOSGeometry* area) {
-    return geos.truth(GEOSisValid_r(geos.handle(), area));
 }
 
 /// What the lines enclose, odd and even; lines and points that are left over do not count.
@@ -48,15 +45,26 @@ Geos::Geometry sideBySide(const Geos& geos, const GEOSGeometry* a, const GEOSGeo
     return collectPolygons(geos, polygons);
 }
 
-void checkArea(const Geos& geos, const GEOSGeometry* a, const GEOSGeometry* b, const GEOSGeometry* united) {
-    const double areaA = geos.area(a);
-    const double areaB = geos.area(b);
-    const double areaUnited = geos.area(united);
+/// Square map units.
+struct UnionAreas {
+    double a;
+    double b;
+    double united;
+};
+
+void check(const UnionAreas& areas) {
+    const auto& [areaA, areaB, areaUnited] = areas;
     const double slack = AreaTolerance * (areaA + areaB);
     if (areaUnited < std::max(areaA, areaB) - slack || areaUnited > areaA + areaB + slack)
         throw RuntimeError(internalError, "geometry: areas of " + std::to_string(areaA) + " and " +
                                               std::to_string(areaB) + " cannot make one of " +
                                               std::to_string(areaUnited));
+}
+
+/// Neighbours that agree on their border have no area in common and leave no gaps.
+bool bordersAgree(const UnionAreas& areas, bool gapsWereFilled) {
+    const double sum = areas.a + areas.b;
+    return !gapsWereFilled && sum - areas.united <= RoundingOfAreas * sum;
 }
 
 } // namespace
@@ -73,8 +81,11 @@ Geos::Geometry uniteAreas(const Geos& geos, const GEOSGeometry* a, const GEOSGeo
     if (!boxesMeet(geos, a, b))
         return sideBySide(geos, a, b);
     Geos::Geometry united = geos.own(GEOSUnion_r(geos.handle(), a, b));
-    checkArea(geos, a, b, united.get());
-    united = withoutThinHoles(geos, std::move(united), ThinnestHole);
+    const UnionAreas areas{geos.area(a), geos.area(b), geos.area(united.get())};
+    check(areas);
+    const bool gapsWereFilled = fillThinHoles(geos, united, ThinnestGap);
+    if (!bordersAgree(areas, gapsWereFilled))
+        fillThinBays(geos, united, ThinnestGap);
     return isValid(geos, united.get()) ? std::move(united) : madeValid(geos, united.get());
 }
 
@@ -84,12 +95,7 @@ Shape shapeOfArea(const Geos& geos, const GEOSGeometry* area) {
     Shape shape;
     for (const GEOSGeometry* polygon : polygonsOf(geos, ordered.get())) {
         auto rings = ringsOf(geos, polygon);
-        for (std::size_t i = 0; i < rings.size(); ++i) {
-            const bool anticlockwise = signedDoubleArea(rings[i]) > 0;
-            if (anticlockwise != (i == 0))
-                std::reverse(rings[i].begin(), rings[i].end());
-            shape.rings.push_back(std::move(rings[i]));
-        }
+        std::move(rings.begin(), rings.end(), std::back_inserter(shape.rings));
     }
     return shape;
 }

@@ -6,13 +6,14 @@
 /// Map units. All throw RuntimeError where the geometry library cannot go on.
 
 /// A gap of less than this, ten metres, is no place but the trace of two outlines that do not agree.
-inline constexpr double ThinnestHole = 1.0;
+inline constexpr double ThinnestGap = 1.0;
 
 /// The area that a shape covers when it is drawn: points inside an odd number of its rings. Empty where the rings
 /// enclose nothing.
 Geos::Geometry areaOf(const Geos& geos, const Shape& shape);
 
-/// The area that both cover together. Holes thinner than ThinnestHole are filled, wherever they come from.
+/// The area that both cover together. Holes thinner than ThinnestGap are filled, wherever they come from, and so are
+/// cracks at the coast where the outlines of both do not agree.
 Geos::Geometry uniteAreas(const Geos& geos, const GEOSGeometry* a, const GEOSGeometry* b);
 
 /// The rings of an area, each outer ring followed by its holes; outer rings anticlockwise, holes clockwise. Equal areas

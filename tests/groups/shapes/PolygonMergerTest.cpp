@@ -133,6 +133,7 @@ TEST(PolygonMerger, NeighboursWhoseBorderDoesNotAgreeLeaveNoSlivers) {
         EXPECT_NEAR(areaOf(both), 1e6, 1000 * error + 1e-3) << error;
         EXPECT_EQ(outerRings(both), 1U) << error;
         EXPECT_EQ(holes(both), 0U) << error;
+        EXPECT_NEAR(outlineLength(both), 4000, 5) << error << ": no cracks where the border reaches the coast";
     }
 }
 

@@ -113,6 +113,7 @@ TEST_F(SampleMerge, OutlinesThatDoNotAgreeMakeTheRegionWithoutSlivers) {
         EXPECT_EQ(holes(made), holes(expected)) << error;
         EXPECT_EQ(outerRings(made), outerRings(expected)) << error;
         EXPECT_GE(thinnestHole(made), 1.0) << error;
+        EXPECT_NEAR(outlineLength(made), outlineLength(expected), 2e-3 * outlineLength(expected)) << error;
         EXPECT_NEAR(areaOf(made), areaOf(expected), (1e-9 + 2e-3 * error) * areaOf(expected)) << error;
     }
 }

@@ -56,6 +56,15 @@ double areaOf(const Shape& shape) {
     return doubled / 2.0;
 }
 
+double outlineLength(const Shape& shape) {
+    double length = 0.0;
+    for (const ShapeRing& ring : shape.rings) {
+        for (std::size_t i = 0; i + 1 < ring.size(); ++i)
+            length += std::hypot(ring[i + 1].x - ring[i].x, ring[i + 1].y - ring[i].y);
+    }
+    return length;
+}
+
 std::size_t outerRings(const Shape& shape) {
     return static_cast<std::size_t>(std::count_if(shape.rings.begin(), shape.rings.end(),
                                                   [](const ShapeRing& ring) { return signedDoubleArea(ring) > 0; }));
@@ -69,11 +78,8 @@ double thinnestHole(const Shape& shape) {
     double thinnest = std::numeric_limits<double>::infinity();
     for (const ShapeRing& ring : shape.rings) {
         const double doubleArea = signedDoubleArea(ring);
-        double length = 0.0;
-        for (std::size_t i = 0; i + 1 < ring.size(); ++i)
-            length += std::hypot(ring[i + 1].x - ring[i].x, ring[i + 1].y - ring[i].y);
         if (doubleArea <= 0)
-            thinnest = std::min(thinnest, -doubleArea / length);
+            thinnest = std::min(thinnest, -doubleArea / outlineLength({{ring}}));
     }
     return thinnest;
 }

@@ -17,6 +17,8 @@ Shape unitedInTurn(const std::vector<Shape>& shapes);
 
 /// Square map units: outer rings less holes, by the way that they run.
 double areaOf(const Shape& shape);
+/// Of all rings, in map units.
+double outlineLength(const Shape& shape);
 /// Rings that run anticlockwise, and clockwise.
 std::size_t outerRings(const Shape& shape);
 std::size_t holes(const Shape& shape);
