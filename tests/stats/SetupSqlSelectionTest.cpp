@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <filesystem>
 #include <functional>
 
 namespace {
@@ -94,6 +96,27 @@ TEST_F(SetupSqlSelection, WritesEachChoiceAsItsClause) {
              p.DTStartTime = {at(9), at(9)};
          },
          days, ""},
+        {"equal times over night",
+         [](auto& p) {
+             p.DTStartTime = {at(9), at(9)};
+             p.ChkOverNight = true;
+         },
+         days, "Overnight"},
+        {"over night round midnight, to the second",
+         [](auto& p) {
+             p.DTStartTime = {at(23, 59, 59), at(0)};
+             p.ChkOverNight = true;
+         },
+         days + " AND (CallDate < #25/03/2025# AND " + T + " > #23:59:59# OR (" + T +
+             " <= #00:00:00#) AND CallDate > #03/05/2025#)",
+         "Overnight"},
+        {"to the end of the day but not from midnight",
+         [](auto& p) {
+             p.DTStartTime = {at(0, 1), at(23, 59, 59)};
+         },
+         days + " AND " + T + " >= #00:01:00# AND " + T + " <= #23:59:59#", ""},
+        {"one day, whose numbers cannot be exchanged", [](auto& p) { p.DTStart = p.DTEnd = day(31, 12); },
+         " CallDate >= #31/12/2025# AND CallDate <= #31/12/2025#", ""},
         {"an inbound number, as a pattern",
          [](auto& p) {
              p.OptInbound = 1;
@@ -108,6 +131,35 @@ TEST_F(SetupSqlSelection, WritesEachChoiceAsItsClause) {
              p.CmbAnswer = "Leeds";
          },
          days + " AND AnswerLoc Like 'Leeds'", "Answer Loc = Leeds"},
+        {"texts with apostrophes stand as they are",
+         [](auto& p) {
+             p.OptInbound = 1;
+             p.CmbInbound = "08'0";
+             p.OptAnswer = 1;
+             p.CmbAnswer = "O'Hare";
+             p.cmbDestinationNo = "D'1";
+         },
+         days + " AND CalledNo Like '08'0' AND AnswerLoc Like 'O'Hare' AND TblTeleItem.NetAddress LIKE 'D'1' ",
+         "Called No = 08'0\r\nAnswer Loc = O'Hare\r\nDestination ID = D'1"},
+        {"an answer point in the box counts only under its option",
+         [](auto& p) {
+             p.CmbAnswer = "Leeds";
+             p.CmbAnswerGroup = "North";
+         },
+         days, ""},
+        {"an answer point option without its text",
+         [](auto& p) {
+             p.OptAnswer = 1;
+             p.CmbAnswerGroup = "North";
+         },
+         days, ""},
+        {"an answer point group option without its text",
+         [](auto& p) {
+             p.OptAnswer = 2;
+             p.CmbAnswer = "Leeds";
+         },
+         days, ""},
+        {"a destination option without its text", [](auto& p) { p.optDestinationNo = 1; }, days, ""},
         {"a destination whatever its option", [](auto& p) { p.cmbDestinationNo = "D1"; },
          days + " AND TblTeleItem.NetAddress LIKE 'D1' ", "Destination ID = D1"},
         {"all together",
@@ -127,6 +179,14 @@ TEST_F(SetupSqlSelection, WritesEachChoiceAsItsClause) {
         EXPECT_EQ(select(parametersOf(text.change)), text.selection) << text.name;
         EXPECT_EQ(SelectionDescription, text.description) << text.name;
     }
+}
+
+TEST_F(SetupSqlSelection, IsMadeWithoutTheCommunityGroupsFileWhichIsLogged) {
+    std::filesystem::remove(installation.file("comgroups.mdb"));
+    EXPECT_EQ(select(parametersOf([](auto& p) { p.cmbDestinationNo = "D1"; })),
+              days + " AND TblTeleItem.NetAddress LIKE 'D1' ");
+    EXPECT_EQ(installation.logLinesWith("\"ModData_Setup_SQLSelection\",3024,"), 1);
+    EXPECT_EQ(installation.logLinesWith("comgroups.mdb"), 1);
 }
 
 TEST_F(SetupSqlSelection, ExchangesDayAndMonthOfTheCallersDates) {
@@ -229,6 +289,11 @@ TEST_F(GroupSelection, ANumberBelongsToUpToThreeGroups) {
     EXPECT_EQ(select(communityGroup("Sales")),
               days + " AND CalledNo In ('0801','0802','0803') AND TblTeleItem.NetAddress LIKE 'D1' ");
     EXPECT_EQ(SelectionDescription, "Community Group = Sales\r\nDestination ID = D1");
+    EXPECT_EQ(select(communityGroup("Not Allocated")),
+              days + " AND CalledNo In ('0804') AND TblTeleItem.NetAddress LIKE 'D1' ");
+    EXPECT_EQ(SelectionDescription, "Community Group = Not Allocated\r\nDestination ID = D1");
+    EXPECT_EQ(select(communityGroup("Nobody")), days + " AND TblTeleItem.NetAddress LIKE 'D1' ")
+        << "a group without numbers selects all of them";
 }
 
 TEST_F(GroupSelection, AnAnswerPointHasOneGroup) {
@@ -241,6 +306,29 @@ TEST_F(GroupSelection, AnAnswerPointHasOneGroup) {
               days)
         << "a group without members selects all answer points";
     EXPECT_EQ(SelectionDescription, "Answer Loc = Empty");
+}
+
+TEST_F(GroupSelection, ADescriptionHasALineForEachGroup) {
+    EXPECT_EQ(select(parametersOf([](auto& p) {
+                  p.OptInbound = 2;
+                  p.cmbCG = "Sales";
+                  p.OptAnswer = 2;
+                  p.CmbAnswerGroup = "Not Allocated";
+                  p.ChkOverNight = true;
+              })),
+              days + " AND CalledNo In ('0801','0802','0803') AND AnswerLoc In ('Bath')");
+    EXPECT_EQ(SelectionDescription, "Community Group = Sales\r\nAnswer Loc = Not Allocated\r\nOvernight");
+}
+
+TEST_F(GroupSelection, AnswerPointGroupsHaveNoLimit) {
+    WorkspaceTransaction rows(*defaultWorkspace());
+    for (int i = 0; i < 1501; ++i)
+        groups->execute("INSERT INTO TblAnswerPoints VALUES ('ACC', 'P" + std::to_string(10000 + i) + "', 'Large')");
+    rows.commit();
+    const std::string list = ModUtilities_getAnswerPointsForGroup("Large");
+    EXPECT_EQ(std::count(list.begin(), list.end(), ','), 1500);
+    EXPECT_FALSE(GroupLimitExceeded);
+    EXPECT_EQ(prompts.texts, Rows{});
 }
 
 TEST_F(GroupSelection, AGroupTakesFifteenHundredNumbers) {
@@ -261,6 +349,10 @@ TEST_F(GroupSelection, AGroupTakesFifteenHundredNumbers) {
                                   "using Manage Community Group"});
     EXPECT_EQ(prompts.styles, std::vector<PromptStyle>{PromptStyle::Information});
 
+    prompts.texts.clear();
+    EXPECT_EQ(select(communityGroup("Sales")), days + " AND CalledNo In ('0801','0802','0803')")
+        << "it stops as well where an earlier run has met the limit";
+    EXPECT_EQ(prompts.texts, Rows{});
     EXPECT_EQ(select(communityGroup("")), days + " AND TblTeleItem.NetAddress LIKE 'D1' ") << "no group is chosen";
     EXPECT_TRUE(GroupLimitExceeded) << "whoever runs the report clears it";
 }
