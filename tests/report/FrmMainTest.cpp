@@ -59,28 +59,34 @@ TEST_F(MainWindow, ShowsTitleHistoryAndWhatToDoFirst) {
     EXPECT_LE(window.minimumSizeHint().height(), 400) << "fits a small screen at 200 %";
 }
 
-TEST_F(MainWindow, TellsOfTheOpenProject) {
+TEST_F(MainWindow, TurnsFromWhatToDoFirstToTheParametersAndBack) {
     FrmMain window;
     window.show();
     EXPECT_TRUE(window.findChild<QLabel*>("lblNoProject")->isVisible());
+    EXPECT_TRUE(window.findChild<QWidget*>("cmdReport_0")->isVisible());
+    EXPECT_FALSE(window.findChild<QWidget*>("Frame3")->isVisible());
 
     gdbProject = defaultWorkspace()->createDatabase(folder_.file("March.mdb"));
     gsProjectPath = "/data/March.mdb";
-    window.showProject();
+    window.showProjectName("March");
     EXPECT_EQ(textOf(window, "Label3"), "March");
     EXPECT_FALSE(window.findChild<QLabel*>("lblNoProject")->isVisible());
-    EXPECT_EQ(textOf(window, "lblProjectPath"), "/data/March.mdb");
-    EXPECT_EQ(textOf(window, "lblProjectPeriod"), "The period of its calls is not known") << "no summary";
-
-    createVocabularyTable(*gdbProject, DatabaseKind::Project, "TblCallSummary1");
-    gdbProject->execute("INSERT INTO TblCallSummary1 (SBSStartDate, SBSEndDate) VALUES (#1/6/2025#, #3/31/2025#)");
-    window.showProject();
-    EXPECT_EQ(textOf(window, "lblProjectPeriod"), "Calls from 06/01/2025 to 31/03/2025");
+    EXPECT_TRUE(window.findChild<QWidget*>("Frame3")->isVisible());
 
     gdbProject.reset();
-    window.showProject();
+    gsProjectPath.clear();
+    window.showProjectName("Please select a file");
     EXPECT_EQ(textOf(window, "Label3"), "Please select a file");
     EXPECT_TRUE(window.findChild<QLabel*>("lblNoProject")->isVisible());
+}
+
+TEST_F(MainWindow, OffersTheUserGuideWhereThereIsOne) {
+    for (const char* guide : {"CallscopeMapping.pdf", "callscopemapping.TXT"}) {
+        EXPECT_TRUE(FrmMain().findChild<QWidget*>("cmdUserGuide")->isHidden());
+        writeText(folder_.file(guide), "a guide");
+        EXPECT_FALSE(FrmMain().findChild<QWidget*>("cmdUserGuide")->isHidden()) << guide;
+        std::filesystem::remove(folder_.file(guide));
+    }
 }
 
 TEST_F(MainWindow, OffersProjectsToMouseAndKeyboard) {
@@ -140,16 +146,6 @@ TEST_F(MainWindow, StaysWhileLongWorkRuns) {
     EXPECT_FALSE(window.close());
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(gdbSystem->isOpen());
-}
-
-TEST_F(MainWindow, NamesItsControlsForScreenReaders) {
-    FrmMain window;
-    for (const QWidget* widget : window.findChildren<QWidget*>())
-        if (widget->focusPolicy() & Qt::TabFocus) {
-            const auto* button = qobject_cast<const QPushButton*>(widget);
-            EXPECT_FALSE(widget->accessibleName().isEmpty() && !button) << widget->objectName().toStdString();
-            EXPECT_FALSE(widget->objectName().isEmpty());
-        }
 }
 
 } // namespace

@@ -1,30 +1,48 @@
 #include "report/panels/ChoicePanel.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QRadioButton>
+
+namespace {
+
+/// Columns of "all", an option, its list, a gap, an option, its list: they stand below each other in all panels.
+constexpr int columnWidths[] = {136, 120, 0, 8, 152, 0};
+
+constexpr int columnOfOption(int option) {
+    return option == 0 ? 0 : 3 * option - 2;
+}
+
+} // namespace
 
 ChoicePanel::ChoicePanel(const QString& name, const QString& heading, Subject subject, const QString& optionName,
                          QWidget* parent)
     : ParameterPanel(name, heading, subject, parent),
-      options_(new OptionGroup(optionName, OptionGroup::Needs::Project, this)), row_(new QHBoxLayout) {
-    row_->setSpacing(8);
+      options_(new OptionGroup(optionName, OptionGroup::Needs::Project, this)), row_(new QGridLayout) {
+    row_->setHorizontalSpacing(8);
+    int column = 0;
+    for (const int width : columnWidths)
+        row_->setColumnMinimumWidth(column++, width);
+    for (int option : {1, 2})
+        row_->setColumnStretch(columnOfOption(option) + 1, 1);
     connect(options_, &OptionGroup::picked, this, &ChoicePanel::follow);
 }
 
 void ChoicePanel::addAll(const QString& caption) {
-    QRadioButton* all = options_->add(caption, this);
-    all->setMinimumWidth(112);
-    row_->addWidget(all);
+    row_->addWidget(options_->add(caption, this), 0, 0);
 }
 
 void ChoicePanel::addChoice(const QString& caption, ChoiceBox* box) {
     QRadioButton* option = options_->add(caption, this);
     box->setParent(this);
     boxes_.append(box);
-    row_->addSpacing(8);
-    row_->addWidget(option);
-    row_->addWidget(box, 1);
+    const int column = columnOfOption(static_cast<int>(boxes_.size()));
+    row_->addWidget(option, 0, column);
+    row_->addWidget(box, 0, column + 1);
     setTabOrder(option, box);
+}
+
+void ChoicePanel::addAtEnd(QWidget* control) {
+    row_->addWidget(control, 0, columnOfOption(2), 1, 2, Qt::AlignRight);
 }
 
 void ChoicePanel::arrange() {

@@ -4,7 +4,7 @@
 #include "report/panels/OptionGroup.h"
 #include "report/panels/ParameterPanel.h"
 
-class QHBoxLayout;
+class QGridLayout;
 
 /// A panel that asks "all, or which": options of which the first stands for all and each other for a list.
 class ChoicePanel : public ParameterPanel {
@@ -25,8 +25,8 @@ protected:
     void addAll(const QString& caption);
     /// An option and its list, which is owned by the panel.
     void addChoice(const QString& caption, ChoiceBox* box);
-    /// Controls behind the options.
-    QHBoxLayout& row() { return *row_; }
+    /// A control at the right end, where there is one list only.
+    void addAtEnd(QWidget* control);
     /// Once everything is in.
     void arrange();
     /// The rows of an option's list; an option that is not available cannot be picked and says why.
@@ -37,6 +37,6 @@ private:
     void follow();
 
     OptionGroup* options_;
-    QHBoxLayout* row_;
+    QGridLayout* row_;
     QList<ChoiceBox*> boxes_; ///< of the options from 1 on
 };

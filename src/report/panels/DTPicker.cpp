@@ -30,11 +30,7 @@ DTPicker::DTPicker(const QString& name, Holds holds, QWidget* parent) : QDateTim
     setTimeSpec(Qt::UTC); // a day is a day, whatever the clocks of the country do on it
     setDisplayFormat(holds == Holds::Day ? QStringLiteral("dd/MM/yyyy") : QStringLiteral("HH:mm:ss"));
     setWrapping(holds == Holds::TimeOfDay);
-    if (holds == Holds::Day) {
-        setCalendarPopup(true);
-        calendarWidget()->setFirstDayOfWeek(Qt::Monday);
-        calendarWidget()->setObjectName(name + QStringLiteral("_calendar"));
-    }
+    setCalendarPopup(holds == Holds::Day);
     lineEdit()->installEventFilter(this);
     connect(this, &QDateTimeEdit::dateTimeChanged, this, &DTPicker::changed);
 }
@@ -54,6 +50,15 @@ void DTPicker::setValue(Date value) {
         setTime(QTime(0, 0).addSecs(static_cast<int>(std::lround((value.days - day) * secondsOfDay))));
 }
 
+/// A calendar is a large widget: each is made when it is first wanted.
+void DTPicker::prepareCalendar() {
+    if (!calendarPopup() || calendarPrepared_)
+        return;
+    calendarPrepared_ = true;
+    calendarWidget()->setFirstDayOfWeek(Qt::Monday);
+    calendarWidget()->setAccessibleName(accessibleName());
+}
+
 void DTPicker::keyPressEvent(QKeyEvent* event) {
     if (leavesTheBox(*event)) {
         event->ignore();
@@ -61,6 +66,7 @@ void DTPicker::keyPressEvent(QKeyEvent* event) {
     }
     if (!requireProject())
         return;
+    prepareCalendar();
     QDateTimeEdit::keyPressEvent(event);
     emit keyPressed();
 }
@@ -68,6 +74,7 @@ void DTPicker::keyPressEvent(QKeyEvent* event) {
 void DTPicker::mousePressEvent(QMouseEvent* event) {
     if (!requireProject())
         return;
+    prepareCalendar();
     QDateTimeEdit::mousePressEvent(event);
     emit clicked();
 }

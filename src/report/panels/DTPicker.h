@@ -31,5 +31,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void prepareCalendar();
+
     Holds holds_;
+    bool calendarPrepared_ = false;
 };

@@ -5,7 +5,6 @@
 #include "ui/ucWebbyLink.h"
 
 #include <QAbstractButton>
-#include <QHBoxLayout>
 
 DestinationPanel::DestinationPanel(QWidget* parent)
     : ChoicePanel(QStringLiteral("Frame6"), tr("Destination"), Subject::AccCostCentre,
@@ -17,8 +16,7 @@ DestinationPanel::DestinationPanel(QWidget* parent)
     CmdDefault = new ucWebbyLink(tr("Reset to &defaults"), ucWebbyLink::Kind::Outlined, this);
     CmdDefault->setObjectName(QStringLiteral("CmdDefault"));
     CmdDefault->setToolTip(tr("The whole project again: all dates, hours, numbers, answer points and destinations"));
-    row().addStretch(1);
-    row().addWidget(CmdDefault);
+    addAtEnd(CmdDefault);
     arrange();
     for (QWidget* control : {static_cast<QWidget*>(optionButton(0)), static_cast<QWidget*>(optionButton(1)),
                              static_cast<QWidget*>(CmdDefault)})

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int headingWidth = 96;
+constexpr int tabRoom = 6; ///< of the panels that have one; the others keep its room
 
 QColor colourOf(ParameterPanel::Subject subject) {
     const cColours_CS colours = skinColours();
@@ -39,9 +40,9 @@ ParameterPanel::ParameterPanel(const QString& name, const QString& heading, Subj
 
 void ParameterPanel::setContent(QLayout* content) {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(16, 8, 16, 8);
+    row->setContentsMargins(ShowParamTab() ? 16 : 16 + tabRoom, 8, 16, 8);
     row->setSpacing(8);
-    heading_->setContentsMargins(0, 6, 0, 0);
+    heading_->setContentsMargins(0, 7, 0, 0);
     row->addWidget(heading_, 0, Qt::AlignTop);
     row->addLayout(content, 1);
 }
