@@ -66,6 +66,7 @@ bool keepsRows(const StatisticsRun& run) {
 }
 
 void zeroRows(StatisticsRun& run) {
+    run.display.task(run.boundary.texts.rows);
     if (onSystemDatabase([&] { run.target.read(); }))
         run.target.zeroPeriod();
 }

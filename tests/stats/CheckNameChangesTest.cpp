@@ -1,6 +1,7 @@
 #include "stats/ModData_CheckNameChanges.h"
 
 #include "core/ModDeclarations.h"
+#include "core/Progress.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/SmallInstallation.h"
 
@@ -127,6 +128,65 @@ TEST_F(NameChanges, EveryApostropheOfTheProjectIsRemoved) {
               Rows{"Kings and Queens"});
     EXPECT_EQ(rowsOf(*gdbSystem, "SELECT Name FROM PGN_TV ORDER BY Name"), (Rows{"Granada", "Kings and Queens"}));
     EXPECT_EQ(installation.logLines(), Rows{});
+}
+
+TEST_F(NameChanges, AGroupThatIsDrawnKeepsItsName) {
+    gdbSystem->execute("INSERT INTO TblCustomerGroups (GroupName) VALUES ('London')");
+    gdbSystem->execute("INSERT INTO PGN_GROUPS (GROUPNAME) VALUES ('London')");
+    gdbSystem->execute("INSERT INTO tblMappingGroupSetup_Link (TallyAccount, DataType) VALUES ('ACC', '2')");
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(valueOf(*gdbSystem, "SELECT GroupName FROM TblCustomerGroups"), "London");
+    EXPECT_EQ(valueOf(*gdbSystem, "SELECT TVRegion FROM TblTV WHERE TVRegion = 'Thames'"), "Thames");
+}
+
+TEST_F(NameChanges, TheOldNameIsTheOneThatMostCodesHave) {
+    installation.addPlaces({{"04", "Thames"}, {"05", "Thames"}});
+    for (const char* row : {"'04', 'Anglia'", "'05', 'Anglia'", "'05', 'Anglia'"})
+        gdbSystem->execute(std::string("INSERT INTO TblLookup1141 ([1141], TVArea) VALUES (") + row + ")");
+    gdbSystem->execute("INSERT INTO PGN_TV (Name, POLYGONID) VALUES ('Anglia', 3)");
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT Name FROM PGN_TV ORDER BY Name"), (Rows{"Granada", "London", "Thames"}))
+        << "three codes against two";
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT DISTINCT TVArea FROM TblLookup1141 ORDER BY TVArea"),
+              (Rows{"Granada", "London", "Thames"}));
+}
+
+TEST_F(NameChanges, ANameWithoutShapeAndLookupIsLeftAlone) {
+    gdbProject->execute("DELETE FROM TblMappingGIS WHERE TVArea = 'Thames'");
+    installation.addPlaces({{"77", "Nowhere"}, {"78", "null"}});
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT Name FROM PGN_TV ORDER BY Name"), (Rows{"Granada", "London"}));
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT DISTINCT TVArea FROM TblLookup1141 ORDER BY TVArea"),
+              (Rows{"Granada", "London"}));
+    EXPECT_EQ(valueOf(*gdbProject, "SELECT TVArea FROM TblMappingGIS WHERE [1141] = '77'"), "Nowhere");
+    EXPECT_EQ(installation.logLines(), Rows{});
+}
+
+TEST_F(NameChanges, NamesAreComparedByTheirFirstTwentyCharacters) {
+    gdbProject->execute("UPDATE TblMappingGIS SET TVArea = 'The Thames Valley and London' WHERE TVArea = 'Thames'");
+    gdbSystem->execute("UPDATE TblLookup1141 SET TVArea = 'The Thames Valley and else' WHERE TVArea = 'London'");
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT Name FROM PGN_TV ORDER BY Name"), (Rows{"Granada", "London"}));
+    EXPECT_EQ(rowsOf(*gdbSystem, "SELECT TVArea FROM TblTemp1 ORDER BY TVArea"),
+              (Rows{"Granada", "The Thames Valley an"}));
+}
+
+/// Counts yields.
+class YieldCount : public Progress {
+public:
+    YieldCount() { setProgress(this); }
+    ~YieldCount() override { setProgress(nullptr); }
+    void yield() override { ++count; }
+    int count = 0;
+};
+
+TEST_F(NameChanges, EachNameYieldsOnce) {
+    YieldCount yields;
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(yields.count, 1);
+    installation.addPlaces({{"77", "Nowhere"}, {"78", "Neverland"}});
+    ModData_CheckTVNameChanges();
+    EXPECT_EQ(yields.count, 3) << "Thames is known by now";
 }
 
 TEST_F(NameChanges, AnErrorEndsTheProcedureAndKeepsWhatWasRenamed) {

@@ -136,9 +136,10 @@ TEST_F(CustomerGroupStatistics, TellsWhatItIsDoingForASelectionToo) {
         "Checking Group Data structures...",     "Updating Group Data structures...", "Creating Group Links...",
         "Analysing Group Data Type...",          "Updating Group Source Data...",     "Updating Group Statistics...",
         "Updating Calls By Group Statistics...", "Total Cost By Group Statistics..."};
-    for (const char* table : {"TblCustomerGroups", "TblSelectedDataForCustomerGroups"}) {
+    for (const char* table :
+         {"TblCustomerGroups", "TblSelectedDataForCustomerGroups", "TblSelectedDataForCustomerGroups"}) {
         TaskTexts shown;
-        ModData_SelectedCustomerGroups(table, 1);
+        ModData_SelectedCustomerGroups(table, 1); // the last time its rows are kept
         EXPECT_EQ(shown.texts, expected) << table;
     }
 }
