@@ -5,11 +5,14 @@
 #include "ui/Skin.h"
 
 #include <QAbstractItemView>
+#include <QCalendarWidget>
 #include <QDateTimeEdit>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QTextCharFormat>
+#include <QToolButton>
 #include <QTreeView>
 
 #include <algorithm>
@@ -150,6 +153,25 @@ Sign signOf(QStyle::StandardPixmap picture) {
 } // namespace
 
 SkinStyle::SkinStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+/// Calendars bring their own colours and pictures.
+void SkinStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    auto* calendar = qobject_cast<QCalendarWidget*>(widget);
+    if (!calendar)
+        return;
+    QTextCharFormat weekend;
+    weekend.setForeground(toColor(skinColours().Coral(6)));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        calendar->setWeekdayTextFormat(day, weekend);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    const std::pair<const char*, int> arrows[] = {{"qt_calendar_prevmonth", 1}, {"qt_calendar_nextmonth", 3}};
+    for (const auto& [name, turns] : arrows)
+        if (auto* button = calendar->findChild<QToolButton*>(QLatin1String(name)))
+            button->setIcon(paintedIcon([turns = turns](QPainter& painter, const QRectF& box) {
+                drawChevron(painter, box, turns, Qt::white);
+            }));
+}
 
 void SkinStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                               const QWidget* widget) const {

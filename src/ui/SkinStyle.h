@@ -12,6 +12,8 @@ class SkinStyle : public QProxyStyle {
 public:
     SkinStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

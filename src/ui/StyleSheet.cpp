@@ -47,6 +47,7 @@ QComboBox QAbstractItemView { border: 1px solid <grey4>; }
 QTableView, QTreeView { background: white; border: 1px solid <grey3>; gridline-color: <grey3>;
                         alternate-background-color: <grey1>; selection-background-color: <indigo6>;
                         selection-color: white; }
+QCalendarWidget QTableView { border: none; }
 QHeaderView { background: <indigo2>; }
 QHeaderView::section { background: <indigo2>; color: <grey6>; border: none; border-right: 1px solid white;
                        border-bottom: 1px solid <indigo3>; padding: 5px 8px; font-weight: bold; }

@@ -3,6 +3,7 @@
 #include "ui/Skin.h"
 #include "ui/clsTooltip.h"
 
+#include <QBitmap>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
@@ -81,9 +82,19 @@ void TipBalloon::buildOutline(int tailX) {
         tail.closeSubpath();
         outline_ = outline_.united(tail);
     }
-    setMask(QRegion(outline_.toFillPolygon().toPolygon())
-                .united(QRegion(box.toAlignedRect().adjusted(3, 0, -3, 0)))
-                .united(QRegion(box.toAlignedRect().adjusted(0, 3, 0, -3)))); // for screens without translucency
+    cutOut();
+}
+
+/// Screens without translucency show the shape by this alone.
+void TipBalloon::cutOut() {
+    QBitmap shape(size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setPen(QPen(Qt::color1, 1));
+    painter.setBrush(Qt::color1);
+    painter.drawPath(outline_);
+    painter.end();
+    setMask(shape);
 }
 
 void TipBalloon::paintEvent(QPaintEvent*) {

@@ -23,6 +23,7 @@ private:
     void measure();
     void place(const QRect& thing, int targetX);
     void buildOutline(int tailX);
+    void cutOut();
     QFont titleFont() const;
 
     QString title_, text_;
