@@ -22,8 +22,10 @@ constexpr double Padding = 24.0;
 constexpr double CardPadding = 16.0;
 constexpr double CardRadius = 8.0;
 constexpr double Gap = 8.0;
-constexpr double SmallestRatio = 0.35;
-constexpr double SmallestKeyFit = 0.5;
+/// Below this letters are hard to read. Only where a picture is too small for that is everything smaller still.
+constexpr double ReadableRatio = 0.7;
+constexpr QSize SmallestReadable(640, 430); ///< that holds the panel at full size
+constexpr double SmallestKeyFit = 0.2;
 
 constexpr double TitlePoints = 17.0;
 constexpr double SmallestTitlePoints = 13.0;
@@ -38,7 +40,9 @@ const QColor CaptionColour(0x6B, 0x6B, 0x6B);
 double ratioOf(QSize picture) {
     const double width = static_cast<double>(picture.width()) / DesignSize.width();
     const double height = static_cast<double>(picture.height()) / DesignSize.height();
-    return std::max(SmallestRatio, std::min(width, height));
+    const double possible = std::min(static_cast<double>(picture.width()) / SmallestReadable.width(),
+                                     static_cast<double>(picture.height()) / SmallestReadable.height());
+    return std::max(std::min(width, height), std::min(ReadableRatio, possible));
 }
 
 int panelWidth(QSize picture) {

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "map/ThematicMap.h"
+#include "map/surface/MapKey.h"
+#include "map/surface/MapSurface.h"
+#include "tests/map/SmallMap.h"
+#include "tests/support/ScriptedPrompts.h"
+#include "ui/cColours_CS.h"
+
+/// A small installation with everything that builds a thematic map of it. The view is 300 x 100 pixels.
+struct MapOnFile {
+    MapOnFile() {
+        surface.setPixelSize({300, 100});
+        maxima.MaxTotalCalls = 900;
+    }
+
+    QColor bandColour(int band) const { return QColor::fromRgb(cColours_CS().MapColour(band)); }
+    void addTables(std::initializer_list<const char*> names) {
+        for (const char* name : names)
+            createVocabularyTable(map.database(), DatabaseKind::SystemMap, name);
+    }
+
+    SmallMap map;
+    ScriptedPrompts messages;
+    MapSurface surface;
+    MapKey key{surface};
+    MapFormState form;
+    CurrentTables tables;
+    MapMaxima maxima;
+    ThematicMap thematic{surface, key, form, tables, maxima};
+};
