@@ -44,7 +44,7 @@ bool liesInOneOf(const Geos& geos, const std::vector<Geos::Geometry>& holes, con
     });
 }
 
-/// Null where there is nothing to fill, or where the polygon would cross itself.
+/// Null where there is nothing to fill.
 Geos::Geometry withoutThinBays(const Geos& geos, const GEOSGeometry* polygon, double width) {
     std::vector<ShapeRing> rings = ringsOf(geos, polygon);
     bool changed = false;
@@ -53,10 +53,7 @@ Geos::Geometry withoutThinBays(const Geos& geos, const GEOSGeometry* polygon, do
         changed = changed || filled.size() != ring.size();
         ring = std::move(filled);
     }
-    if (!changed)
-        return {};
-    Geos::Geometry whole = geos.polygon(rings);
-    return isValid(geos, whole.get()) ? std::move(whole) : Geos::Geometry();
+    return changed ? geos.polygon(rings) : Geos::Geometry();
 }
 
 bool hasHoles(const Geos& geos, const GEOSGeometry* polygon) {
@@ -131,17 +128,24 @@ bool fillThinHoles(const Geos& geos, Geos::Geometry& area, double width) {
     return true;
 }
 
-void fillThinBays(const Geos& geos, Geos::Geometry& area, double width) {
+bool fillThinBays(const Geos& geos, Geos::Geometry& area, double width) {
+    const auto polygons = polygonsOf(geos, area.get());
     std::vector<Geos::Geometry> filled;
     bool changed = false;
-    for (const GEOSGeometry* polygon : polygonsOf(geos, area.get())) {
+    for (const GEOSGeometry* polygon : polygons) {
         Geos::Geometry whole = withoutThinBays(geos, polygon, width);
-        changed = changed || whole;
-        filled.push_back(whole ? std::move(whole) : geos.own(GEOSGeom_clone_r(geos.handle(), polygon)));
+        // Alone it is looked at below.
+        if (whole && (polygons.size() == 1 || isValid(geos, whole.get())))
+            changed = true;
+        else
+            whole = geos.own(GEOSGeom_clone_r(geos.handle(), polygon));
+        filled.push_back(std::move(whole));
     }
     if (!changed)
-        return;
+        return false;
     Geos::Geometry whole = geos.collect(std::move(filled));
-    if (isValid(geos, whole.get())) // not where an island lies in a bay
-        area = std::move(whole);
+    if (!isValid(geos, whole.get())) // an island lies in a bay
+        return false;
+    area = std::move(whole);
+    return true;
 }

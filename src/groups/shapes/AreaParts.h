@@ -26,5 +26,6 @@ ShapeBounds boxOf(const Geos& geos, const GEOSGeometry* geometry);
 bool fillThinHoles(const Geos& geos, Geos::Geometry& area, double width);
 
 /// Fills the bays of an area that are thinner than `width` (see ThinBays.h). A polygon that would cross itself stays as
-/// it was, and so does the whole area where its polygons would overlap.
-void fillThinBays(const Geos& geos, Geos::Geometry& area, double width);
+/// it was, and so does the whole area where its polygons would overlap. Returns whether bays were filled; the area then
+/// is known to be valid.
+bool fillThinBays(const Geos& geos, Geos::Geometry& area, double width);

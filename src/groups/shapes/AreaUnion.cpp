@@ -84,8 +84,8 @@ Geos::Geometry uniteAreas(const Geos& geos, const GEOSGeometry* a, const GEOSGeo
     const UnionAreas areas{geos.area(a), geos.area(b), geos.area(united.get())};
     check(areas);
     const bool gapsWereFilled = fillThinHoles(geos, united, ThinnestGap);
-    if (!bordersAgree(areas, gapsWereFilled))
-        fillThinBays(geos, united, ThinnestGap);
+    if (!bordersAgree(areas, gapsWereFilled) && fillThinBays(geos, united, ThinnestGap))
+        return united;
     return isValid(geos, united.get()) ? std::move(united) : madeValid(geos, united.get());
 }
 

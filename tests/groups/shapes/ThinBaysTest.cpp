@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <string>
+#include <random>
 
 namespace {
 
@@ -61,6 +61,24 @@ TEST(ThinBays, OfAHoleReachIntoTheLandRoundIt) {
     }
     std::reverse(hole.begin(), hole.end());
     EXPECT_DOUBLE_EQ(signedDoubleArea(withoutThinBays(hole, 1.0)), -20000);
+}
+
+TEST(ThinBays, OfRingsInATangleAreFilledWithVerticesOfTheRing) {
+    std::mt19937 random(9);
+    std::uniform_real_distribution<double> place(0, 6);
+    for (int round = 0; round < 200; ++round) {
+        ShapeRing ring;
+        for (int vertices = 3 + round; vertices > 0; --vertices)
+            ring.push_back({place(random), place(random)});
+        ring.push_back(ring.front());
+        const ShapeRing filled = withoutThinBays(ring, 1.0);
+        EXPECT_GT(filled.size(), 3U);
+        EXPECT_LE(filled.size(), ring.size());
+        EXPECT_EQ(filled.front(), filled.back());
+        for (const ShapePoint& point : filled)
+            EXPECT_NE(std::find(ring.begin(), ring.end(), point), ring.end());
+    }
+    EXPECT_EQ(withoutThinBays({}, 1.0), ShapeRing{});
 }
 
 TEST(ThinBays, WithAnIslandInTheirMouthLeaveTheUnionAsItIs) {
