@@ -4,6 +4,7 @@
 #include "core/Version.h"
 #include "ui/AppIcon.h"
 #include "ui/TextFormats.h"
+#include "ui/WindowProgress.h"
 #include "ui/modBranding.h"
 
 #include <QHBoxLayout>
@@ -84,6 +85,7 @@ void frmGetText::GetText(QString& Text, bool& Cancelled) {
     txtText_->setText(Text);
     txtText_->setAccessibleName(lblInstructions_->text());
     txtText_->setFocus();
+    const PlainPointer pointer;
     Cancelled = exec() != Accepted;
     if (!Cancelled)
         Text = txtText_->text();

@@ -28,7 +28,18 @@ public:
         return buttons == PromptButtons::YesNo ? PromptAnswer::No : PromptAnswer::Cancel;
     }
 
+    int getOption(OptionsMode mode) override {
+        modes.push_back(mode);
+        if (options.empty())
+            return Prompts::getOption(mode);
+        const int option = options.front();
+        options.pop_front();
+        return option;
+    }
+
     std::vector<std::string> texts;
     std::vector<PromptStyle> styles;
+    std::vector<OptionsMode> modes; ///< of the questions with several answers
     std::deque<PromptAnswer> answers;
+    std::deque<int> options; ///< answers to those
 };

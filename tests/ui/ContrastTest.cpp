@@ -1,6 +1,8 @@
 // Contrast of text is measured on what is drawn, in every state of a control.
 #include "ui/Contrast.h"
+#include "ui/DetailList.h"
 #include "ui/Skin.h"
+#include "ui/ucWebbyBorder.h"
 #include "ui/ucWebbyLink.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -145,6 +148,25 @@ TEST(Contrast, IsEnoughOnLabelsAndFields) {
         field->resize(field->sizeHint());
         expectReadable(*field, name);
     }
+}
+
+TEST(Contrast, IsEnoughInPanelsFootersAndGrids) {
+    applySkin(*qApp);
+    ucWebbyBorder panel;
+    panel.setCaption("Population figures");
+    panel.resize(200, 50);
+    expectReadable(panel, "caption of a panel");
+    DetailList details;
+    details.setDetails({"From 01/03/2025", "All answer points"});
+    details.resize(160, 40);
+    expectReadable(details, "details");
+    QTableWidget grid(1, 1);
+    grid.setItem(0, 0, new QTableWidgetItem("London"));
+    grid.setHorizontalHeaderLabels({"Region"});
+    expectReadable(*grid.viewport(), "cell");
+    expectReadable(*grid.horizontalHeader()->viewport(), "head");
+    grid.selectAll();
+    expectReadable(*grid.viewport(), "selected cell");
 }
 
 TEST(Contrast, IsEnoughInThePalette) {

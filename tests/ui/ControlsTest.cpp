@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
@@ -40,6 +41,14 @@ TEST(WebbyLink, IsClickedByMouseKeysAndMnemonic) {
     QTest::mouseClick(&link, Qt::LeftButton);
     QTest::keyClick(&link, Qt::Key_Return);
     EXPECT_EQ(clicks.count(), 5) << "disabled";
+}
+
+TEST(WebbyLink, IsAButtonForReadersOfTheScreen) {
+    ucWebbyLink link("&Save guide", ucWebbyLink::Kind::Link);
+    QAccessibleInterface* told = QAccessible::queryAccessibleInterface(&link);
+    ASSERT_TRUE(told);
+    EXPECT_EQ(told->role(), QAccessible::Button);
+    EXPECT_EQ(told->text(QAccessible::Name), "Save guide");
 }
 
 TEST(WebbyLink, FollowsItsCaption) {
