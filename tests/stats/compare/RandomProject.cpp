@@ -41,6 +41,7 @@ const Texts answers{"0", "0",  "0",  "8",  "2",  "9", "4", "4",          "3", "x
                     "X", "10", "0 ", "08", "-2", "",  " ", std::nullopt, " 8"};
 const Texts points{"Leeds", "LEEDS", "Hull", "O'Hare", "Bath", std::nullopt};
 const Texts destinations{"D1", "d1", "D2", std::nullopt};
+const Texts payphones{"P", "p", "P ", "N", "", std::nullopt};
 
 /// A code that is no place mostly lies in the area of its own name.
 OptionalText areaOf(Random& random, const OptionalText& code, const Texts& areas) {
@@ -102,6 +103,7 @@ ProjectCall makeCall(Random& random) {
     call.answerInd = random.oneOf(answers);
     call.answerPoint = random.oneOf(points);
     call.destination = random.oneOf(destinations);
+    call.payphone = random.oneOf(payphones);
     if (!random.oneIn(12))
         call.discounted = random.oneOf<long>({0, 15000, -2500, 1, 20000, -33333, random.below(900000) - 300000});
     return call;
@@ -162,18 +164,19 @@ RandomInstallation::RandomInstallation(const ProjectContent& content) {
 }
 
 void storeCall(const ProjectCall& call) {
-    sqlite::Statement statement(gdbProject->connection(),
-                                "INSERT INTO " + gdbProject->schema() +
-                                    ".TblTeleItem(CallTime, CalledNo, CallingNo, \"1141\", AnswerInd, AnswerLoc, "
-                                    "NetAddress, CallDate, Discounted) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)");
+    sqlite::Statement statement(
+        gdbProject->connection(),
+        "INSERT INTO " + gdbProject->schema() +
+            ".TblTeleItem(CallTime, CalledNo, CallingNo, \"1141\", AnswerInd, AnswerLoc, "
+            "NetAddress, PayPhone, CallDate, Discounted) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     int parameter = 0;
-    for (const OptionalText& text :
-         Texts{call.time, call.called, call.caller, call.code, call.answerInd, call.answerPoint, call.destination})
+    for (const OptionalText& text : Texts{call.time, call.called, call.caller, call.code, call.answerInd,
+                                          call.answerPoint, call.destination, call.payphone})
         bindText(statement, ++parameter, text);
     if (call.date)
-        statement.bind(8, *call.date);
+        statement.bind(9, *call.date);
     if (call.discounted)
-        statement.bind(9, static_cast<double>(*call.discounted) / 10000.0);
+        statement.bind(10, static_cast<double>(*call.discounted) / 10000.0);
     statement.step();
 }
 

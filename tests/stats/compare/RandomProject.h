@@ -15,7 +15,7 @@ struct ProjectCall {
     std::optional<double> date; ///< days since 30 December 1899
     int hour = 0, minute = 0;   ///< of `time`
     std::string time;
-    OptionalText called, caller, code, answerInd, answerPoint, destination;
+    OptionalText called, caller, code, answerInd, answerPoint, destination, payphone;
     std::optional<long> discounted; ///< ten-thousandths of a pound
 };
 

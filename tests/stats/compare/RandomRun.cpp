@@ -33,6 +33,18 @@ Date randomTime(Random& random) {
     return Date{random.oneOf<int>({0, 360, 719, random.below(1440)}) / 1440.0};
 }
 
+void addRun(Random& random, std::vector<RandomRun>& runs, RunBoundary boundary, const std::string& table, int period,
+            int unfilteredChance) {
+    RandomRun run{boundary, table, period, {}, {}};
+    if (!random.oneIn(unfilteredChance))
+        run.parameters = makeParameters(random);
+    if (random.oneIn(10))
+        run.callBefore = makeCall(random);
+    runs.push_back(std::move(run));
+}
+
+} // namespace
+
 ReportParameters makeParameters(Random& random) {
     ReportParameters parameters;
     parameters.DTStart = random.oneIn(3) ? Date{static_cast<double>(firstCallDay)} : randomDay(random);
@@ -56,18 +68,6 @@ ReportParameters makeParameters(Random& random) {
         parameters.cmbDestinationNo = random.oneOf<std::string>({"D1", "d?", "D2"});
     return parameters;
 }
-
-void addRun(Random& random, std::vector<RandomRun>& runs, RunBoundary boundary, const std::string& table, int period,
-            int unfilteredChance) {
-    RandomRun run{boundary, table, period, {}, {}};
-    if (!random.oneIn(unfilteredChance))
-        run.parameters = makeParameters(random);
-    if (random.oneIn(10))
-        run.callBefore = makeCall(random);
-    runs.push_back(std::move(run));
-}
-
-} // namespace
 
 std::vector<RandomRun> makeRuns(Random& random) {
     std::vector<RandomRun> runs;

@@ -20,6 +20,8 @@ struct RandomRun {
     std::string text() const;
 };
 
+ReportParameters makeParameters(Random& random);
+
 /// The main, selected and animated tables of all boundaries, with the later periods of the last two in their order.
 std::vector<RandomRun> makeRuns(Random& random);
 
