@@ -85,7 +85,7 @@ void SketchPad::press(MapTool tool, const QPointF& mapPoint) {
         current_->points.push_back(mapPoint);
     } else {
         if (tool == MapTool::Measure) // one distance at a time
-            std::erase_if(kept_, [](const Sketch& sketch) { return sketch.tool == MapTool::Measure; });
+            forget(MapTool::Measure);
         current_ = Sketch{tool, {mapPoint, mapPoint}};
     }
 }
@@ -143,4 +143,8 @@ bool SketchPad::clear() {
     const bool any = !kept_.empty();
     kept_.clear();
     return any;
+}
+
+void SketchPad::forget(MapTool tool) {
+    std::erase_if(kept_, [tool](const Sketch& sketch) { return sketch.tool == tool; });
 }

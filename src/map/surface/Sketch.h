@@ -43,6 +43,7 @@ public:
     bool takeBack();
     /// Gives up the figure in the making, or else removes all figures. Tells whether there was anything.
     bool clear();
+    void forget(MapTool tool); ///< removes the figures of one tool
 
     const std::vector<Sketch>& kept() const { return kept_; }
     /// The figure in the making; its last point is where the pointer is.

@@ -8,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QNativeGestureEvent>
+#include <QPointer>
+#include <QPointingDevice>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -132,6 +135,17 @@ TEST_F(MapControl, ZoomingEndsWhereNothingWouldBeSeen) {
     for (int notch = 0; notch < 400; ++notch)
         turnWheel(120, {300, 100});
     EXPECT_GE(surface.MapScale(), 10);
+}
+
+TEST_F(MapControl, APinchZoomsAboutTheFingers) {
+    const QPoint fingers(120, 60);
+    const QPointF under = seenAt(fingers);
+    QNativeGestureEvent pinch(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, fingers, fingers,
+                              canvas()->mapToGlobal(fingers), 0.25, {});
+    QApplication::sendEvent(canvas(), &pinch);
+    EXPECT_NEAR(surface.MapScale(), 240, 1e-6);
+    EXPECT_NEAR(seenAt(fingers).x(), under.x(), 1e-6);
+    settle();
 }
 
 TEST_F(MapControl, ADragTakesThePlaceUnderThePointerAlong) {
@@ -330,4 +344,42 @@ TEST_F(MapControl, AFileThatIsGoneIsLoggedAndTheControlLivesOn) {
     click(at(50, 50));
     drag({at(50, 50), at(80, 50)});
     settle();
+}
+
+TEST_F(MapControl, AMessageThatTakesTheReleaseEndsTheDrag) {
+    for (const MapTool tool : {MapTool::PolygonQuery, MapTool::Pan}) {
+        surface.setUIMode(tool);
+        QSignalSpy query(&widget, &MapSurfaceWidget::MapGeoQuery);
+        const double centre = surface.MapCenterX();
+        QTest::mousePress(canvas(), Qt::LeftButton, {}, at(10, 10));
+        for (const QPoint& point : {at(10, 90), at(190, 90), at(190, 5)})
+            moveTo(point); // no button is down any more
+        EXPECT_EQ(surface.MapCenterX(), centre);
+        click(at(20, 20));
+        EXPECT_EQ(query.size(), 0);
+    }
+}
+
+TEST_F(MapControl, AHandlerMayCloseTheWindow) {
+    for (const bool atPress : {true, false}) {
+        auto* other = new MapSurfaceWidget;
+        describeCalls(other->surface());
+        other->resize(300, 150);
+        other->show();
+        other->surface().ZoomToExtent();
+        other->surface().DrawMap();
+        if (atPress)
+            QObject::connect(other, &MapSurfaceWidget::MapMouseDown, [other] { delete other; });
+        else
+            QObject::connect(other, &MapSurfaceWidget::MapEntityInfo, [other] { delete other; });
+        QPointer<QWidget> shown(&other->canvas());
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            if (!shown)
+                break;
+            const QPointF centre = shown->rect().center();
+            QMouseEvent event(type, centre, shown->mapToGlobal(centre), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+            static_cast<QObject*>(shown)->event(&event);
+        }
+        EXPECT_TRUE(shown.isNull());
+    }
 }

@@ -159,7 +159,7 @@ void MapCanvas::mousePressEvent(QMouseEvent* event) {
 }
 
 void MapCanvas::mouseMoveEvent(QMouseEvent* event) {
-    pointer_.move(event->position() * devicePixelRatioF());
+    pointer_.move(event->position() * devicePixelRatioF(), event->buttons());
 }
 
 void MapCanvas::mouseReleaseEvent(QMouseEvent* event) {

@@ -4,6 +4,7 @@
 #include "map/surface/MapSurface.h"
 
 #include <QGuiApplication>
+#include <QPointer>
 #include <QStyleHints>
 
 #include <cmath>
@@ -46,10 +47,13 @@ QPointF MapPointer::mapPoint(QPointF pixel) const {
 void MapPointer::press(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF pixel) {
     position_ = pixel;
     aimsAtCentre_ = false;
+    if (button == dragButton_)
+        giveUpDrag();
     const Camera before = surface_.camera();
+    const QPointer<MapPointer> alive(this); // what is told may close the window
     emit MapMouseDown(buttonCode(button), shiftCode(modifiers), pixel.x() / devicePixelRatio,
                       pixel.y() / devicePixelRatio);
-    if (drag_ != Drag::None || (button != Qt::LeftButton && button != Qt::MiddleButton))
+    if (!alive || drag_ != Drag::None || (button != Qt::LeftButton && button != Qt::MiddleButton))
         return;
     drag_ = Drag::Armed;
     dragButton_ = button;
@@ -62,7 +66,17 @@ void MapPointer::press(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, 
     }
 }
 
-void MapPointer::move(QPointF pixel) {
+void MapPointer::giveUpDrag() {
+    const Drag ended = std::exchange(drag_, Drag::None);
+    if (ended == Drag::Stroke && pad_.current() && SketchPad::drawsInOneStroke(pad_.current()->tool))
+        pad_.clear();
+    else if (ended == Drag::Pan)
+        drawAfter(AtOnce);
+}
+
+void MapPointer::move(QPointF pixel, Qt::MouseButtons buttons) {
+    if (drag_ != Drag::None && !(buttons & dragButton_))
+        giveUpDrag();
     const QPointF from = std::exchange(position_, pixel);
     inside_ = true;
     aimsAtCentre_ = false;
@@ -89,20 +103,25 @@ void MapPointer::move(QPointF pixel) {
 void MapPointer::release(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF pixel) {
     position_ = pixel;
     const bool ends = drag_ != Drag::None && button == dragButton_;
+    const QPointer<MapPointer> alive(this);
     if (ends)
         endDrag(pixel);
-    emit MapMouseUp(buttonCode(button), shiftCode(modifiers), pixel.x() / devicePixelRatio,
-                    pixel.y() / devicePixelRatio);
-    if (!ends || button != Qt::LeftButton)
+    if (alive)
+        emit MapMouseUp(buttonCode(button), shiftCode(modifiers), pixel.x() / devicePixelRatio,
+                        pixel.y() / devicePixelRatio);
+    if (!alive || !ends || button != Qt::LeftButton)
         return;
     emit Click();
-    if (surface_.needsDraw())
+    if (alive && surface_.needsDraw())
         emit drawWanted(AtOnce);
 }
 
 void MapPointer::endDrag(QPointF pixel) {
     const auto box = zoomBox();
     const Drag ended = std::exchange(drag_, Drag::None);
+    const auto outline = ended == Drag::Stroke ? pad_.release() : std::nullopt;
+    hoverAt(pixel);
+    emit changed();
     if (ended == Drag::Pan) {
         drawAfter(AtOnce);
     } else if (ended == Drag::ZoomBox) {
@@ -112,14 +131,11 @@ void MapPointer::endDrag(QPointF pixel) {
             std::min(view.width() / std::max(1.0, box->width()), view.height() / std::max(1.0, box->height())),
             QPointF(view.width(), view.height()) / 2.0);
         drawAfter(AtOnce);
-    } else if (ended == Drag::Stroke) {
-        if (const auto outline = pad_.release())
-            tellQuery(*outline);
-    } else if (!spent_ && dragButton_ == Qt::LeftButton) {
+    } else if (outline) {
+        tellQuery(*outline);
+    } else if (ended == Drag::Armed && !spent_ && dragButton_ == Qt::LeftButton) {
         act(pixel);
     }
-    hoverAt(pixel);
-    emit changed();
 }
 
 void MapPointer::act(QPointF pixel) {
@@ -240,8 +256,12 @@ void MapPointer::clickAtCentre() {
     }
     const QSizeF view = surface_.camera().pixelSize();
     const QPointF centre(view.width() / 2.0, view.height() / 2.0);
+    const QPointer<MapPointer> alive(this);
     press(Qt::LeftButton, Qt::NoModifier, centre);
-    release(Qt::LeftButton, Qt::NoModifier, centre);
+    if (alive)
+        release(Qt::LeftButton, Qt::NoModifier, centre);
+    if (!alive)
+        return;
     aimsAtCentre_ = true;
     hoverAt(centre);
 }
@@ -258,9 +278,20 @@ void MapPointer::chooseTool(MapTool tool) {
         surface_.setUIMode(tool);
     if (surface_.camera() != before)
         emit viewChanged();
+    const QPointer<MapPointer> alive(this);
     emit ToolBarClick(static_cast<long>(tool));
+    if (!alive)
+        return;
     if (tool == MapTool::ZoomToExtent || surface_.needsDraw())
         emit drawWanted(AtOnce);
+}
+
+void MapPointer::toolChanged() {
+    const MapTool tool = surface_.UIMode();
+    if (pad_.current() && pad_.current()->tool != tool)
+        pad_.finish();
+    if (tool != MapTool::Measure)
+        pad_.forget(MapTool::Measure);
 }
 
 void MapPointer::goBack() {

@@ -23,7 +23,8 @@ public:
     explicit MapPointer(MapSurface& surface, QObject* parent = nullptr);
 
     void press(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF pixel);
-    void move(QPointF pixel);
+    /// `buttons`: those that are down. A drag whose release went elsewhere, to a message perhaps, ends here.
+    void move(QPointF pixel, Qt::MouseButtons buttons);
     void release(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPointF pixel);
     void doubleClick(); ///< behind the press of the second click
     void leave();
@@ -34,6 +35,8 @@ public:
     /// What a button of the tool bar does.
     void chooseTool(MapTool tool);
 
+    /// Another tool is in hand: a figure in the making ends, a measured distance goes.
+    void toolChanged();
     /// A draw has ended: the view goes into the history, and the area under the pointer is looked for anew.
     void pictureDrawn();
 
@@ -60,6 +63,7 @@ signals:
 private:
     enum class Drag { None, Armed, Pan, ZoomBox, Stroke };
 
+    void giveUpDrag();
     void act(QPointF pixel);
     void endDrag(QPointF pixel);
     void clickAtCentre();

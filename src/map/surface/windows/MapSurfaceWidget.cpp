@@ -107,5 +107,7 @@ void MapSurfaceWidget::showTools() {
     toolBar_->showTools(surface_.toolBar(), surface_.UIMode());
     toolBar_->setVisible(surface_.ShowToolBar());
     bringBack_->setVisible(!surface_.ShowToolBar());
+    canvas_->pointer().toolChanged();
     canvas_->showTool();
+    canvas_->update();
 }
