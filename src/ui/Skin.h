@@ -15,8 +15,8 @@ inline QColor toColor(Colour colour) {
 }
 
 /// The one look of all windows: style, palette, style sheet, window icon. Controls choose a variant by a property:
-/// a QPushButton "kind" of "primary" (one per window) or "danger"; a QLabel "role" of "title", "caption" or
-/// "headline".
+/// a QPushButton "kind" of "primary" (one per window) or "danger"; a QLabel "role" of "title", "headline",
+/// "section", "caption", "hint", "detail", "step" or "message".
 void applySkin(QApplication& application);
 
 /// Changes the variant of a control that is already shown.

@@ -6,7 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QMouseEvent>
 #include <QProgressBar>
+#include <QPushButton>
+#include <QSignalSpy>
 
 #include <stdexcept>
 
@@ -98,16 +101,29 @@ TEST(WindowProgress, TakesTheHourglassAwayWhenAllHave) {
     EXPECT_FALSE(QApplication::overrideCursor()) << "nothing stays behind";
 }
 
-TEST(WindowProgress, YieldsToInputThatFindsItsWindowDisabled) {
+TEST(WindowProgress, LetsClicksOnDisabledWindowsComeToNothing) {
     WindowProgress progressOnScreen;
-    QWidget window;
-    window.show();
-    window.setEnabled(false);
-    bool timerRan = false;
-    QTimer::singleShot(0, &window, [&] { timerRan = true; });
-    progress().setTask("now");
-    progress().yield();
-    EXPECT_TRUE(timerRan);
+    QPushButton button("Map");
+    button.show();
+    QSignalSpy clicks(&button, &QPushButton::clicked);
+    const auto post = [&](QEvent::Type type, Qt::MouseButtons down) {
+        const QPointF place(5, 5);
+        QApplication::postEvent(
+            &button, new QMouseEvent(type, place, button.mapToGlobal(place), Qt::LeftButton, down, Qt::NoModifier));
+    };
+    const auto clickDuringYield = [&] {
+        post(QEvent::MouseButtonPress, Qt::LeftButton);
+        post(QEvent::MouseButtonRelease, Qt::NoButton);
+        progress().setTask("now");
+        progress().yield();
+    };
+    button.setEnabled(false);
+    clickDuringYield();
+    button.setEnabled(true);
+    QApplication::processEvents();
+    EXPECT_EQ(clicks.count(), 0) << "not kept for later either";
+    clickDuringYield();
+    EXPECT_EQ(clicks.count(), 1) << "a window that is not disabled is alive";
 }
 
 } // namespace

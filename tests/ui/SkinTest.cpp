@@ -2,6 +2,7 @@
 #include "core/ModDeclarations.h"
 #include "ui/AppIcon.h"
 #include "ui/ElidedLabel.h"
+#include "ui/ElidedText.h"
 #include "ui/InterfaceFont.h"
 #include "ui/StyleSheet.h"
 
@@ -65,6 +66,20 @@ TEST(ElidedLabel, TellsItsWholeTextWhenItDoesNotFit) {
     EXPECT_EQ(QToolTip::text(), label.text());
     QToolTip::hideText();
     EXPECT_LT(label.minimumSizeHint().width(), 80);
+}
+
+TEST(ElidedText, KeepsWholeCharactersBeforeItsDots) {
+    const QFontMetrics metrics{QFont()};
+    const QString text = QString::fromUtf8("Cafe\u0301 in Aberystwyth");
+    EXPECT_EQ(elidedText(metrics, text, metrics.horizontalAdvance(text)), text);
+    EXPECT_EQ(elidedText(metrics, text, 1), "...");
+    EXPECT_EQ(elidedText(metrics, "", 0), "");
+    for (int width = 1; width < metrics.horizontalAdvance(text); ++width) {
+        const QString cut = elidedText(metrics, text, width);
+        ASSERT_TRUE(cut.endsWith("..."));
+        EXPECT_TRUE(cut == "..." || metrics.horizontalAdvance(cut) <= width);
+        EXPECT_NE(cut, "Cafe...") << "the accent belongs to its letter";
+    }
 }
 
 } // namespace
