@@ -13,9 +13,9 @@ void ProjectLinks::openRow(int row) {
     QListWidget* list = window_.LstHistory();
     if (!list->isEnabled())
         return;
-    list->setEnabled(false);
+    window_.setBusy(true);
     FrmMain_lsthistory_click(*this, row + 1);
-    list->setEnabled(true);
+    window_.setBusy(false);
     list->setFocus();
 }
 

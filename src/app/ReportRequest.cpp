@@ -35,12 +35,12 @@ long boundaryOf(int index) {
 class Fence {
 public:
     explicit Fence(FrmMain& window) : window_(window) {
-        window.LstHistory()->setEnabled(false);
+        window.setBusy(true);
         window.DisableForm();
     }
     ~Fence() {
         progress().setReportBar(false, steps, 0);
-        window_.LstHistory()->setEnabled(true);
+        window_.setBusy(false);
         window_.EnableForm();
     }
     Fence(const Fence&) = delete;

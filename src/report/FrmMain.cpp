@@ -73,6 +73,7 @@ void FrmMain::makeLinks() {
     const auto make = [this](const char* name, const QString& caption, const QString& tip) {
         auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
         link->setObjectName(QString::fromLatin1(name));
+        link->setAccessibleDescription(tip);
         link->setToolTip(tip);
         uctFooter1->RegisterButton(link);
         return link;
@@ -165,7 +166,12 @@ bool FrmMain::multiMapPostCodeDistricts() const {
 
 void FrmMain::setLinksEnabled(bool enabled) {
     for (ucWebbyLink* link : {cmdImportCSV, cmdUserGuide, ucwlSaveGuide})
-        link->setEnabled(enabled);
+        ReportButtons::enableButton(*link, enabled);
+}
+
+void FrmMain::setBusy(bool busy) {
+    LstHistory()->setEnabled(!busy);
+    CmdClose()->setEnabled(!busy);
 }
 
 void FrmMain::DisableForm() {

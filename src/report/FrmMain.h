@@ -39,6 +39,8 @@ public:
     MultiMapParameters multiMapParameters() const;
     bool multiMapPostCodeDistricts() const; ///< OptBoundaries of several maps; else TV regions
 
+    /// While work runs no other project can be opened and the window cannot be closed.
+    void setBusy(bool busy);
     /// Fence long work: no parameter can be changed, the panels are hidden. Yields.
     void DisableForm();
     /// The reverse. A list is enabled where its option stands on it, a picker where its map is shown.

@@ -12,6 +12,7 @@ ChoiceBox::ChoiceBox(const QString& name, const QString& spokenName, QWidget* pa
     setInsertPolicy(QComboBox::NoInsert);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(12);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // its panel shares the width out
     setMaxVisibleItems(16);
     view()->setTextElideMode(Qt::ElideRight);
     connect(this, &QComboBox::activated, this, &ChoiceBox::remember);

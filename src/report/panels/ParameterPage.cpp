@@ -7,9 +7,11 @@
 #include "report/panels/PeriodPanel.h"
 #include "report/panels/ReportButtons.h"
 #include "ui/ElidedLabel.h"
+#include "ui/Globe.h"
 #include "ui/Skin.h"
 #include "ui/ucWebbyLink.h"
 
+#include <QPainter>
 #include <QVBoxLayout>
 
 ParameterPage::ParameterPage(QWidget* parent)
@@ -101,6 +103,8 @@ void ParameterPage::restoreMultiMaps(const MultiMapSettings& settings) {
 }
 
 void ParameterPage::setControlsEnabled(bool enabled) {
+    shown_ = enabled;
+    update();
     CmdMainHelp->setEnabled(enabled);
     Frame3->setControlsEnabled(enabled);
     Frame4->setControlsEnabled(enabled);
@@ -110,6 +114,17 @@ void ParameterPage::setControlsEnabled(bool enabled) {
     Frame9->setControlsEnabled(enabled);
     for (ParameterPanel* panel : panels_)
         panel->setVisible(enabled);
+}
+
+/// A quiet picture while work hides the panels.
+void ParameterPage::paintEvent(QPaintEvent*) {
+    if (shown_)
+        return;
+    constexpr int side = 160;
+    QRect place(0, 0, side, side);
+    place.moveCenter(rect().center());
+    QPainter painter(this);
+    paintGlobe(painter, place, GlobeStyle::Pale);
 }
 
 bool ParameterPage::checkTyped() {

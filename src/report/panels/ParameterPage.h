@@ -48,6 +48,9 @@ public:
     /// A control outside the page that may be used whatever was typed into it.
     void setWayOut(const QWidget* control);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 signals:
     void reportRequested(int index);
     void defaultsRequested();
@@ -66,4 +69,5 @@ private:
     ReportButtons* Frame7;
     MultiMapPanel* Frame9;
     QList<ParameterPanel*> panels_;
+    bool shown_ = true; ///< the panels
 };
