@@ -3,10 +3,17 @@
 #include "core/ModDeclarations.h"
 #include "data/project/FirstValue.h"
 
+std::string joinMembers(const std::string& members, const std::string& shapeTable) {
+    std::string columns = members + ".GroupName, " + members + ".Reference";
+    // The vertices stay in the table: they are most of it, and would go through every sort.
+    for (const char* column : {"BOUNDLOWX", "BOUNDLOWY", "BOUNDUPPX", "BOUNDUPPY", "CENTERY"})
+        columns += ", " + shapeTable + "." + column;
+    return "SELECT " + columns + " FROM " + members + " INNER JOIN " + shapeTable + " ON " + members +
+           ".Reference = " + shapeTable + ".NAME";
+}
+
 std::string selectMembers(const std::string& shapeTable) {
-    return "SELECT TblGroup_Link.GroupName, TblGroup_Link.Reference, " + shapeTable +
-           ".* FROM TblGroup_Link INNER JOIN " + shapeTable + " ON TblGroup_Link.Reference = " + shapeTable +
-           ".NAME where tallyaccount = " + quoted(gsAccount);
+    return joinMembers("TblGroup_Link", shapeTable) + " where tallyaccount = " + quoted(gsAccount);
 }
 
 std::int32_t wholeUnits(const Recordset& rows, std::string_view column) {

@@ -7,6 +7,7 @@
 #include "data/project/FirstValue.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "groups/shapes/MergePass.h"
+#include "groups/shapes/OneWrite.h"
 
 std::string MergeGroupName;
 std::int16_t MergePolygonID = 0;
@@ -27,7 +28,7 @@ std::string groupValues() {
 }
 
 /// `label`: what stands behind the group in the statement that writes its label point.
-void storeGroup(const std::string& label) {
+void writeGroup(const std::string& label) {
     run("DELETE FROM PGN_GROUPS WHERE GroupName = " + quoted(MergeGroupName));
     run("INSERT INTO PGN_GROUPS (TALLYACCOUNT, GROUPNAME, POLYGONID, NUMVERT, BOUNDLOWX, BOUNDLOWY, BOUNDUPPX, "
         "BOUNDUPPY, CENTERX, CENTERY, VERTICES, NUMPARTS, PARTS ) SELECT " +
@@ -36,6 +37,10 @@ void storeGroup(const std::string& label) {
         "PGN_TEMP.CENTERX, PGN_TEMP.CENTERY, PGN_TEMP.VERTICES, PGN_TEMP.NUMPARTS, PGN_TEMP.PARTS FROM PGN_TEMP");
     run("DELETE FROM PNT_GROUPS WHERE Name = " + quoted(MergeGroupName));
     run("INSERT INTO PNT_GROUPS (TALLYACCOUNT, NAME, POINTID, XCOORD, YCOORD) " + label);
+}
+
+void storeGroup(const std::string& label) {
+    inOneWrite([&] { writeGroup(label); });
 }
 
 void storeOnlyArea() {

@@ -2,11 +2,13 @@
 
 #include "core/CurrentProcedure.h"
 #include "core/LogAndGoOn.h"
+#include "core/Progress.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "groups/shapes/LabelStatements.h"
 #include "groups/shapes/ModData_CheckLabelCoords.h"
+#include "groups/shapes/OneWrite.h"
 
 #include <algorithm>
 #include <optional>
@@ -70,6 +72,7 @@ private:
             return false;
         run("UPDATE PNT_GROUPS SET XCoord = " + std::to_string(labelX_) + ", YCoord = " + std::to_string(labelY_) +
             " WHERE Name = " + quoted(group.name));
+        progress().yield();
         return true;
     }
 
@@ -110,19 +113,11 @@ void copyGroupsWithoutCallAreas() {
 }
 
 std::string copiedMembers(const std::string& shapeTable) {
-    return "SELECT TblGroup_LabelName_Temp.GroupName, TblGroup_LabelName_Temp.Reference, " + shapeTable +
-           ".* FROM TblGroup_LabelName_Temp INNER JOIN " + shapeTable +
-           " ON TblGroup_LabelName_Temp.Reference = " + shapeTable + ".NAME ORDER BY TblGroup_LabelName_Temp.GroupName";
+    return joinMembers("TblGroup_LabelName_Temp", shapeTable) + " ORDER BY TblGroup_LabelName_Temp.GroupName";
 }
 
-} // namespace
-
-void ModData_UpdateGroupLabels(long DataType) {
-    const CurrentProcedure procedure("ModData_UpdateGroupLabels");
-    const std::string shapeTable = DataType == tvRegions ? "PGN_TV"
-                                   : DataType == csgs    ? "PGN_CSG"
-                                                         : "PGN_POSTCODEDISTRICT";
-    startInTheMiddle();
+/// The three walks over the members: of groups with areas, of groups of call areas alone, of groups without call areas.
+void moveLabels(const std::string& shapeTable) {
     LabelWalk labels(shapeTable);
     if (labels.walk(membersWithPlaces(shapeTable)) != LabelWalk::Outcome::Done)
         return;
@@ -130,4 +125,14 @@ void ModData_UpdateGroupLabels(long DataType) {
         return;
     copyGroupsWithoutCallAreas();
     labels.walk(copiedMembers(shapeTable));
+}
+
+} // namespace
+
+void ModData_UpdateGroupLabels(long DataType) {
+    const CurrentProcedure procedure("ModData_UpdateGroupLabels");
+    inOneWrite([DataType] {
+        startInTheMiddle();
+        moveLabels(DataType == tvRegions ? "PGN_TV" : DataType == csgs ? "PGN_CSG" : "PGN_POSTCODEDISTRICT");
+    });
 }
