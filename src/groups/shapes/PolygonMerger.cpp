@@ -96,7 +96,7 @@ void PolygonMerger::Merge() {
 void PolygonMerger::unite(const Geos& geos, const GEOSGeometry* first, const GEOSGeometry* second) {
     try {
         union_ = encodeArea(geos, uniteAreas(geos, first, second).get());
-    } catch (const RuntimeError&) {
+    } catch (...) {
         union_ = encodeArea(geos, first);
         throw;
     }

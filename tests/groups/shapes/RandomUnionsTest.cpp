@@ -1,3 +1,4 @@
+#include "core/RuntimeError.h"
 #include "tests/groups/shapes/Unions.h"
 
 #include <gtest/gtest.h>
@@ -134,6 +135,38 @@ TEST(RandomUnions, DoNotDependOnTheOrder) {
         EXPECT_NEAR(areaOf(other), areaOf(one), 1e-6 * areaOf(one)) << round;
         EXPECT_EQ(outerRings(other), outerRings(one)) << round;
     }
+}
+
+Bytes damaged(Bytes bytes, Random& random) {
+    for (int changes = number(random, 0, 3); changes > 0 && !bytes.empty(); --changes)
+        bytes[static_cast<std::size_t>(number(random, 0, static_cast<int>(bytes.size()) - 1))] =
+            static_cast<std::byte>(number(random, 0, 255));
+    if (number(random, 0, 9) == 0)
+        bytes.resize(static_cast<std::size_t>(number(random, 0, static_cast<int>(bytes.size()) + 16)));
+    return bytes;
+}
+
+TEST(RandomUnions, OfDamagedBytesAreRefusedOrCanBeRead) {
+    Random random(404);
+    int merged = 0;
+    for (int round = 0; round < 3000; ++round) {
+        PolygonMerger merger;
+        setFirst(merger, {{randomStar(random).rings[0], squareRing(1000, 1000, 50)}});
+        setSecond(merger, randomStar(random));
+        merger.Vertices1 = damaged(merger.Vertices1.asBytes(), random);
+        merger.Parts1 = damaged(merger.Parts1.asBytes(), random);
+        merger.Vertices2 = damaged(merger.Vertices2.asBytes(), random);
+        merger.NumParts2 = number(random, 0, 20) == 0 ? number(random, -3, 3) : merger.NumParts2;
+        try {
+            merger.Merge();
+            ++merged;
+        } catch (const RuntimeError& error) {
+            EXPECT_NE(error.description(), "") << round;
+        }
+        const Shape shape = unionOf(merger); // fails the test where it cannot be read
+        EXPECT_EQ(shape.rings.size(), static_cast<std::size_t>(merger.NumParts())) << round;
+    }
+    EXPECT_GT(merged, 300) << "damage that leaves a shape is merged";
 }
 
 } // namespace
