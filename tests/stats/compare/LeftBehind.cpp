@@ -69,6 +69,8 @@ std::vector<TableRows> leftBehind(const RandomRun& run) {
     for (auto& row : tables.front().rows)
         row.front() = foldText(row.front()); // a new row takes any of the spellings of its area
     const bool ofGroups = run.boundary == RunBoundary::CustomerGroups;
+    if (ofGroups && valueOf(*gdbProject, "SELECT Count(*) FROM TblGroups WHERE GroupName <> ''") == "0")
+        return tables; // such a run does nothing
     tables.push_back(workingTable(ofGroups ? run.table : "SelectedData"));
     if (countsCallers(run)) {
         for (const char* table : {"TblAnsweredCallers", "TblLostCallers"})
