@@ -42,7 +42,8 @@ void ChoicePanel::addChoice(const QString& caption, ChoiceBox* box) {
 }
 
 void ChoicePanel::addAtEnd(QWidget* control) {
-    row_->addWidget(control, 0, columnOfOption(2), 1, 2, Qt::AlignRight);
+    row_->addWidget(new QWidget(this), 0, columnOfOption(2)); // a column without a widget takes no gap
+    row_->addWidget(control, 0, columnOfOption(2) + 1, Qt::AlignRight);
 }
 
 void ChoicePanel::arrange() {

@@ -1,0 +1,94 @@
+// The main window of the program on a sample installation: projects open from its list, its buttons count.
+#include "app/DesktopStart.h"
+#include "app/ModUtilities_Main.h"
+#include "core/ModDeclarations.h"
+#include "data/engine/Database.h"
+#include "report/FrmMain.h"
+#include "sample/installation/SampleInstallation.h"
+#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TextFile.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDateTimeEdit>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+using Messages = std::vector<std::string>;
+
+class MainWindowLinks : public testing::Test {
+protected:
+    MainWindowLinks() : start_(folder_.text(), {}) {
+        sample::makeSampleInstallation({.folder = folder_.text(), .calls = 2'000, .seed = 5});
+        project_ = folder_.file("projects/Sample.mdb");
+        writeText(folder_.file("app/CallHistory.csv"),
+                  "\"More files ..\"\n\"\"\n\"" + project_ + "\"\n\"" + folder_.file("gone.mdb") + "\"\n");
+        EXPECT_EQ(ModUtilities_Main({folder_.text(), folder_.text(), folder_.file("system")}, start_),
+                  StartResult::Running);
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* main = qobject_cast<FrmMain*>(window))
+                window_ = main;
+    }
+    ~MainWindowLinks() override {
+        resetGlobals();
+        resetDefaultWorkspace();
+    }
+
+    void choose(int row) const {
+        QListWidget* list = window_->LstHistory();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+        QApplication::processEvents();
+    }
+    void press(const char* name) const {
+        QTest::mouseClick(window_->findChild<QAbstractButton*>(QString::fromLatin1(name)), Qt::LeftButton);
+        QApplication::processEvents();
+    }
+    std::string label3() const { return window_->findChild<QLabel*>("Label3")->text().toStdString(); }
+    Messages takeMessages() { return std::exchange(prompts_.texts, {}); }
+
+    TemporaryFolder folder_;
+    ScriptedPrompts prompts_;
+    std::string project_;
+    DesktopStart start_;
+    FrmMain* window_ = nullptr;
+};
+
+TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
+    ASSERT_TRUE(window_);
+    press("cmdReport_0");
+    EXPECT_TRUE(window_->LstHistory()->hasFocus() || window_->LstHistory()->currentRow() == 0);
+    choose(3);
+    EXPECT_EQ(takeMessages(), Messages{"Project not found"});
+    EXPECT_EQ(label3(), "Please select a file");
+
+    choose(2);
+    EXPECT_EQ(takeMessages(), Messages{});
+    EXPECT_EQ(label3(), "Sample");
+    EXPECT_EQ(gsProjectPath, project_);
+    EXPECT_EQ(window_->LstHistory()->item(1)->toolTip().toStdString(), project_) << "it has gone to the head";
+
+    press("OptInbound_1");
+    press("cmdReport_104");
+    EXPECT_EQ(takeMessages(), Messages{"The figures are counted. The map window is not part of this program yet."});
+    const auto counted = gdbSystem->openRecordset("SELECT Sum(TotalCalls1) FROM TblSelectedDataForTV");
+    EXPECT_GT(counted->value(0).asDouble(), 0);
+    EXPECT_TRUE(window_->LstHistory()->isEnabled() && window_->CmdClose()->isEnabled());
+    EXPECT_TRUE(window_->findChild<QWidget*>("CmbInbound")->isEnabled()) << "the form is given back";
+    EXPECT_FALSE(window_->Label8()->isVisible());
+
+    auto* last = window_->findChild<QDateTimeEdit*>("DTEnd");
+    last->setCurrentSection(QDateTimeEdit::YearSection);
+    QTest::keyClick(last, Qt::Key_Down);
+    press("cmdReport_103");
+    EXPECT_EQ(takeMessages(), Messages{"Invalid date selection, report abandoned"});
+    EXPECT_TRUE(window_->LstHistory()->isEnabled() && last->isEnabled()) << "the way to other dates is open";
+}
+
+} // namespace
