@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <vector>
 
 namespace {
@@ -19,7 +20,7 @@ constexpr double MostPixelsOfALabel = 2'000'000.0;
 /// Letters of western scripts: a text of them is as wide as its letters.
 constexpr ushort LastPlainLetter = 0x24F;
 
-/// Coverage by text, 0 to 255, one byte a pixel.
+/// How much of each pixel the text covers, 0 to 255.
 struct Mask {
     int width, height;
     std::vector<uchar> coverage;
@@ -32,38 +33,60 @@ struct Mask {
     }
 };
 
-/// Makes `to` at least `from` moved by (dx, dy), in 256ths of `weight`. What is half covered counts as whole, or thin
-/// strokes would have a faint rim.
-void spread(const Mask& from, Mask& to, int dx, int dy, int weight) {
+/// Makes `to` at least `from` moved by (dx, dy).
+void spread(const Mask& from, Mask& to, int dx, int dy) {
     const int left = std::max(0, dx), right = std::min(to.width, to.width + dx);
     for (int y = std::max(0, dy); y < std::min(to.height, to.height + dy); ++y) {
         const uchar* source = from.row(y - dy) - dx;
         uchar* target = to.row(y);
         for (int x = left; x < right; ++x)
-            target[x] = std::max(target[x], static_cast<uchar>(std::min(2 * source[x], 255) * weight >> 8));
+            target[x] = source[x] > target[x] ? source[x] : target[x];
     }
+}
+
+/// What the text weighs at some distance from it, `weight` from 0 to 1. What is half covered counts as whole, or thin
+/// strokes would have a faint rim.
+Mask weighted(const Mask& text, double weight) {
+    Mask result(text.width, text.height);
+    std::transform(text.coverage.begin(), text.coverage.end(), result.coverage.begin(),
+                   [share = static_cast<int>(weight * 256.0)](uchar coverage) {
+                       return static_cast<uchar>(std::min(2 * coverage, 255) * share >> 8);
+                   });
+    return result;
 }
 
 /// What lies within reach of the text, fading outwards.
 Mask rimOf(const Mask& text, int reach, double ratio) {
-    Mask rim(text.width, text.height);
+    std::map<double, std::vector<QPoint>> steps; // by their weight
     for (int dy = -reach; dy <= reach; ++dy) {
         for (int dx = -reach; dx <= reach; ++dx) {
-            const double distance = std::hypot(dx, dy) / ratio;
+            const double distance = std::sqrt(dx * dx + dy * dy) / ratio;
             const double weight = std::clamp((WidestRim - distance) / (WidestRim - FullRim), 0.0, 1.0);
             if (weight > 0.0)
-                spread(text, rim, dx, dy, static_cast<int>(weight * 256.0));
+                steps[weight].emplace_back(dx, dy);
         }
+    }
+    Mask rim(text.width, text.height);
+    for (const auto& [weight, offsets] : steps) {
+        const Mask source = weighted(text, weight);
+        for (const QPoint& offset : offsets)
+            spread(source, rim, offset.x(), offset.y());
     }
     return rim;
 }
 
-QRgb covered(const QColor& colour, int coverage) {
-    return qPremultiply(qRgba(colour.red(), colour.green(), colour.blue(), colour.alpha() * coverage / 255));
+LabelShades shadesOf(const QColor& colour) {
+    LabelShades shades;
+    for (int coverage = 0; coverage < static_cast<int>(shades.size()); ++coverage)
+        shades[static_cast<std::size_t>(coverage)] =
+            qPremultiply(qRgba(colour.red(), colour.green(), colour.blue(), colour.alpha() * coverage / 255));
+    return shades;
 }
 
 /// One premultiplied colour over another.
 QRgb over(QRgb upper, QRgb lower) {
+    if (upper == 0)
+        return lower;
     const int rest = 255 - qAlpha(upper);
     const auto mix = [rest](int a, int b) { return a + (b * rest + 127) / 255; };
     return qRgba(mix(qRed(upper), qRed(lower)), mix(qGreen(upper), qGreen(lower)), mix(qBlue(upper), qBlue(lower)),
@@ -88,8 +111,8 @@ QFont labelFont(const LabelFont& font, double devicePixelRatio) {
 }
 
 LabelFace::LabelFace(const LabelFont& font, const QColor& colour, const QColor& halo, double devicePixelRatio)
-    : font_(labelFont(font, devicePixelRatio)), metrics_(font_), colour_(colour), halo_(halo), ratio_(devicePixelRatio),
-      rim_(static_cast<int>(std::ceil(WidestRim * devicePixelRatio))), images_(KeptPixels) {}
+    : font_(labelFont(font, devicePixelRatio)), metrics_(font_), ink_(shadesOf(colour)), halo_(shadesOf(halo)),
+      ratio_(devicePixelRatio), rim_(static_cast<int>(std::ceil(WidestRim * devicePixelRatio))), images_(KeptPixels) {}
 
 QSizeF LabelFace::sizeOf(const QString& text) {
     double width = 0.0;
@@ -139,7 +162,7 @@ QImage LabelFace::draw(const QString& text) {
     for (int y = 0; y < mask.height; ++y) {
         auto* line = reinterpret_cast<QRgb*>(drawn.scanLine(y));
         for (int x = 0; x < mask.width; ++x)
-            line[x] = over(covered(colour_, mask.row(y)[x]), covered(halo_, rim.row(y)[x]));
+            line[x] = over(ink_[mask.row(y)[x]], halo_[rim.row(y)[x]]);
     }
     return drawn;
 }

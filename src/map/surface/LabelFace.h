@@ -10,8 +10,13 @@
 #include <QImage>
 #include <QSizeF>
 
+#include <array>
+
 /// A label's font in device pixels. A family that is not installed is replaced by one of the same widths.
 QFont labelFont(const LabelFont& font, double devicePixelRatio);
+
+/// A colour by how much of a pixel it covers, from 0 to 255; premultiplied.
+using LabelShades = std::array<QRgb, 256>;
 
 /// One way of writing labels: font, colour, and the colour of the light rim that makes them read on every colour below.
 /// Keeps the labels it has drawn, as far as a set room goes. Device pixels. Main thread.
@@ -32,8 +37,8 @@ private:
 
     QFont font_;
     QFontMetricsF metrics_;
-    QColor colour_;
-    QColor halo_;
+    LabelShades ink_;
+    LabelShades halo_;
     double ratio_;
     int rim_;
     QHash<QChar, double> advances_;
