@@ -166,6 +166,7 @@ TEST_F(MapControl, ADragTakesThePlaceUnderThePointerAlong) {
 
 TEST_F(MapControl, ZoomToolsZoomByAClickAndIntoABox) {
     takeTool(MapTool::ZoomIn);
+    EXPECT_EQ(canvas()->cursor().shape(), Qt::BitmapCursor);
     click(at(50, 50));
     EXPECT_EQ(surface.MapScale(), 150);
     settle();

@@ -70,6 +70,10 @@ void MapCanvas::tellHover() {
 
 void MapCanvas::showTool() {
     const MapTool tool = surface_.UIMode();
+    const PointerLook look{tool, pointer_.isDragging(), pointer_.hover().has_value(), devicePixelRatioF()};
+    if (look == shownLook_) // asked for at every move of the mouse
+        return;
+    shownLook_ = look;
     if (pointer_.isDragging())
         setCursor(Qt::ClosedHandCursor);
     else if (tool == MapTool::ZoomIn || tool == MapTool::ZoomOut)

@@ -44,6 +44,13 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    /// What the look of the pointer depends on.
+    struct PointerLook {
+        MapTool tool;
+        bool dragging, overArea;
+        double devicePixelRatio;
+        friend bool operator==(const PointerLook&, const PointerLook&) = default;
+    };
     void fitPicture(); ///< to the widget's size and the screen's density
     void pointerChanged();
     void tellHover();
@@ -53,6 +60,7 @@ private:
     MapPointer pointer_;
     CanvasOverlay overlay_;
     QString hoverName_, hoverValue_;
+    std::optional<PointerLook> shownLook_;
     bool keyboardFocus_ = false; // show where the keys go
     bool lostFocusDisabled_ = false;
 };
