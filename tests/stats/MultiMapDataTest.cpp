@@ -78,6 +78,38 @@ TEST_F(MultiMapData, FiguresThatStandAreOnlyLookedThroughForTheScale) {
     EXPECT_NE(SelectionSql.find("01/02/2025"), std::string::npos) << SelectionSql;
 }
 
+/// What the bar of a report was told.
+class BarProgress : public Progress {
+public:
+    BarProgress() { setProgress(this); }
+    ~BarProgress() override { setProgress(nullptr); }
+    void setReportBar(bool visible, long maximum, long value) override {
+        told.push_back((visible ? "" : "hidden ") + std::to_string(value) + "/" + std::to_string(maximum));
+    }
+    void yield() override {
+        if (told.empty() || told.back() != "yield")
+            told.emplace_back("yield");
+    }
+    Rows told;
+};
+
+TEST_F(MultiMapData, TheBarGoesOnByFourStepsAMapAndNotBeyondItsEnd) {
+    currentTables.TV = "TblSelectedDataForTV";
+    BarProgress bar;
+    ModData_GetMultiMapData(parameters, ranges, false);
+    EXPECT_EQ(bar.told, (Rows{"hidden 1/8", "yield", "hidden 2/8", "yield"})) << "nothing to be counted";
+    bar.told.clear();
+    ModData_GetMultiMapData(parameters, ranges, true);
+    Rows expected;
+    for (const char* value : {"1/8", "1/8", "2/8", "3/8", "4/8", "5/8"})
+        expected.insert(expected.end(), {value, "yield"});
+    expected.insert(expected.end(), {"hidden 5/8"});
+    for (const char* value : {"6/8", "6/8", "7/8", "8/8"})
+        expected.insert(expected.end(), {value, "yield"});
+    expected.insert(expected.end(), {"hidden 8/8"});
+    EXPECT_EQ(bar.told, expected);
+}
+
 TEST_F(MultiMapData, ATooLargeGroupEndsItAtOnce) {
     const auto groups =
         defaultWorkspace()->openDatabase(project.file("CustomerGroups.mdb"), Workspace::Access::Shared, ProjectConnect);

@@ -128,6 +128,7 @@ TEST(DamagedProjects, GiveTheFiguresThatCanBeHadByEitherSource) {
         Rows rows[2];
         for (const FigureEngine engine : {FigureEngine::Statements, FigureEngine::Automatic}) {
             DamagedProject project(damage);
+            const WorkspaceTransaction neverWritten(*defaultWorkspace()); // nothing of it needs the disk
             rows[engine == FigureEngine::Automatic] = project.figures(engine);
             EXPECT_EQ(regionIn("TblTV"), damage.region) << damage.name;
             EXPECT_EQ(regionIn("TblSelectedDataForTV"), damage.selected) << damage.name;
