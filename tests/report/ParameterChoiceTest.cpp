@@ -1,6 +1,9 @@
 // The options of the main window and their lists, with real clicks and keys.
 #include "tests/report/MainWindowOnProject.h"
 
+#include <QAbstractItemView>
+#include <QCalendarWidget>
+#include <QCompleter>
 #include <QSignalSpy>
 
 namespace {
@@ -111,6 +114,36 @@ TEST_F(ParameterChoice, InboundNumbersRefuseOtherSigns) {
     for (const int key : {Qt::Key_Delete, Qt::Key_Home, Qt::Key_Left, Qt::Key_Return})
         QTest::keyClick(number, static_cast<Qt::Key>(key));
     EXPECT_EQ(takeMessages(), Messages{});
+}
+
+TEST_F(ParameterChoice, InboundNumbersAreFoundByAnyOfTheirDigits) {
+    click("OptInbound_1");
+    QComboBox* number = box("CmbInbound");
+    number->setFocus();
+    number->clearEditText();
+    QTest::keyClicks(number, "45");
+    QAbstractItemView* matches = number->completer()->popup();
+    ASSERT_TRUE(matches->isVisible());
+    EXPECT_EQ(matches->model()->rowCount(), 1);
+    QTest::keyClick(matches, Qt::Key_Down);
+    QTest::keyClick(matches, Qt::Key_Return);
+    EXPECT_EQ(textOf("CmbInbound"), "0845");
+    EXPECT_FALSE(matches->isVisible());
+    EXPECT_EQ(window_->parameters().CmbInbound, "0845");
+    EXPECT_EQ(takeMessages(), Messages{});
+}
+
+TEST_F(ParameterChoice, TheCalendarOpensByKey) {
+    for (const auto& [key, modifiers] :
+         {std::pair{Qt::Key_F4, Qt::NoModifier}, std::pair{Qt::Key_Down, Qt::AltModifier}}) {
+        QDateTimeEdit* start = picker("DTStart");
+        QTest::keyClick(start, key, modifiers);
+        ASSERT_TRUE(start->calendarWidget()->isVisible());
+        EXPECT_EQ(start->calendarWidget()->selectedDate(), QDate(2025, 3, 1));
+        EXPECT_EQ(start->calendarWidget()->firstDayOfWeek(), Qt::Monday);
+        start->calendarWidget()->window()->close();
+    }
+    EXPECT_EQ(picker("DTStart")->date(), QDate(2025, 3, 1));
 }
 
 TEST_F(ParameterChoice, AnInboundNumberThatIsNoRowIsTakenBack) {

@@ -5,6 +5,7 @@
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QStyleOptionComboBox>
 
 #include <cmath>
 
@@ -20,6 +21,10 @@ QDate dayZero() {
 /// Keys that only lead somewhere else.
 bool leavesTheBox(const QKeyEvent& event) {
     return event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab || event.key() == Qt::Key_Escape;
+}
+
+bool opensCalendar(const QKeyEvent& event) {
+    return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && (event.modifiers() & Qt::AltModifier));
 }
 
 } // namespace
@@ -59,6 +64,18 @@ void DTPicker::prepareCalendar() {
     calendarWidget()->setAccessibleName(accessibleName());
 }
 
+/// The calendar has no key of its own: a press on its arrow opens it.
+void DTPicker::openCalendar() {
+    QStyleOptionComboBox option;
+    option.initFrom(this);
+    option.editable = true;
+    option.subControls = QStyle::SC_All;
+    const QPointF arrow =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this).center();
+    QMouseEvent press(QEvent::MouseButtonPress, arrow, mapToGlobal(arrow), Qt::LeftButton, Qt::LeftButton, {});
+    QDateTimeEdit::mousePressEvent(&press);
+}
+
 void DTPicker::keyPressEvent(QKeyEvent* event) {
     if (leavesTheBox(*event)) {
         event->ignore();
@@ -67,6 +84,10 @@ void DTPicker::keyPressEvent(QKeyEvent* event) {
     if (!requireProject())
         return;
     prepareCalendar();
+    if (calendarPopup() && opensCalendar(*event)) {
+        openCalendar();
+        return;
+    }
     QDateTimeEdit::keyPressEvent(event);
     emit keyPressed();
 }

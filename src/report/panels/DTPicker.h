@@ -4,7 +4,8 @@
 
 #include <QDateTimeEdit>
 
-/// A box for a day, with a calendar, or for a time of day. It takes the user's clicks and keys only while a project is
+/// A box for a day, with a calendar, or for a time of day. F4 and Alt+Down open the
+/// calendar. It takes the user's clicks and keys only while a project is
 /// open, and says so otherwise.
 class DTPicker : public QDateTimeEdit {
     Q_OBJECT
@@ -32,6 +33,7 @@ protected:
 
 private:
     void prepareCalendar();
+    void openCalendar();
 
     Holds holds_;
     bool calendarPrepared_ = false;

@@ -37,6 +37,15 @@ void TypedBox::focusOutEvent(QFocusEvent* event) {
     QMetaObject::invokeMethod(this, &TypedBox::leftWithoutRow, Qt::QueuedConnection);
 }
 
+InboundNumberBox::InboundNumberBox(const QString& name, const QString& spokenName, QWidget* parent)
+    : TypedBox(name, spokenName, parent) {
+    auto* matches = new QCompleter(model(), this);
+    matches->setCompletionMode(QCompleter::PopupCompletion);
+    matches->setFilterMode(Qt::MatchContains);
+    matches->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(matches);
+}
+
 bool InboundNumberBox::handleKey(QKeyEvent& event) {
     const QString text = event.text();
     const bool command = event.key() == Qt::Key_Escape || event.key() == Qt::Key_Tab ||

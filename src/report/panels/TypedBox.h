@@ -29,11 +29,12 @@ private:
 };
 
 /// CmbInbound: takes digits and letters and refuses other signs with a message.
+/// While it is typed into, it shows the rows that hold what was typed, for numbers are known by their last digits.
 class InboundNumberBox : public TypedBox {
     Q_OBJECT
 
 public:
-    using TypedBox::TypedBox;
+    InboundNumberBox(const QString& name, const QString& spokenName, QWidget* parent = nullptr);
 
 protected:
     bool handleKey(QKeyEvent& event) override;
