@@ -217,11 +217,11 @@ void hitTest(benchmark::State& state) {
     report(state, fineSample());
 }
 
-BENCHMARK(redrawWholeMap)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(redrawAfterZoom)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(recolour)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(panStep)->Unit(benchmark::kMillisecond)->UseRealTime();
-BENCHMARK(hitTest)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(firstFrame)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(5);
+BENCHMARK(redrawWholeMap)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(redrawAfterZoom)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(recolour)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(panStep)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(hitTest)->Unit(benchmark::kMicrosecond)->MeasureProcessCPUTime()->UseRealTime();
+BENCHMARK(firstFrame)->Unit(benchmark::kMillisecond)->MeasureProcessCPUTime()->UseRealTime()->Iterations(5);
 
 } // namespace
