@@ -26,11 +26,12 @@ std::string callersQuery(CallerKind kind, const std::string& area, const std::st
            "))" + (where.empty() ? "" : " AND " + where);
 }
 
-std::string neverAnsweredQuery(const std::string& area, const std::string& where) {
+std::string neverAnswered() {
     // An unknown caller is nobody who could have been answered.
-    return callersQuery(CallerKind::Lost, area,
-                        "(TblTeleItem.CallingNo Is Null Or TblTeleItem.CallingNo Not In (SELECT Answered.CallingNo "
-                        "FROM TblTeleItem AS Answered WHERE Answered.AnswerInd In ('0','8') AND Answered.CallingNo Is "
-                        "Not Null))" +
-                            (where.empty() ? "" : " AND " + where));
+    return "(TblTeleItem.CallingNo Is Null Or TblTeleItem.CallingNo Not In (SELECT Answered.CallingNo FROM TblTeleItem "
+           "AS Answered WHERE Answered.AnswerInd In ('0','8') AND Answered.CallingNo Is Not Null))";
+}
+
+std::string neverAnsweredQuery(const std::string& area, const std::string& where) {
+    return callersQuery(CallerKind::Lost, area, neverAnswered() + (where.empty() ? "" : " AND " + where));
 }

@@ -16,5 +16,8 @@ std::string selectedCallsQuery(const std::string& area, const CallSelection& sel
 std::string callersQuery(CallerKind kind, const std::string& area, const std::string& where,
                          std::string_view into = {});
 
+/// A condition by which a caller was answered at no time.
+std::string neverAnswered();
+
 /// Lost callers as they are at the end: those who were answered at no time.
 std::string neverAnsweredQuery(const std::string& area, const std::string& where);

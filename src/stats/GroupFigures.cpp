@@ -1,51 +1,13 @@
 #include "stats/GroupFigures.h"
 
-#include "core/ModDeclarations.h"
-#include "data/project/Databases.h"
-#include "data/project/FirstValue.h"
-#include "data/project/SystemDatabaseStep.h"
 #include "stats/FigureEngine.h"
+#include "stats/GroupQueries.h"
 #include "stats/ProjectFigures.h"
 
 using namespace projectFigures;
 
-namespace {
-
-/// Where a call's area stands in the geography. A kind that is not known counts as regions here …
-std::string areaColumn(GroupAreas areas) {
-    switch (areas) {
-    case GroupAreas::PostcodeDistrict:
-        return "Postcode";
-    case GroupAreas::Csg:
-        return "CSG";
-    default:
-        return "TVArea";
-    }
-}
-
-/// … and as districts where the areas without calls are added.
-std::string columnOfAreasWithoutCalls(GroupAreas areas) {
-    return areas == GroupAreas::Unknown ? "Postcode" : areaColumn(areas);
-}
-
-/// The calls beside the map that the user has put into a group: "'Mobile', 'VOIP'", or nothing.
-std::string callAreasInGroups() {
-    std::string list;
-    onSystemDatabase([&] {
-        const auto rows = systemDatabase().openRecordset(
-            "SELECT Reference FROM TblTempGroups WHERE Reference IN ('International', 'Mobile', 'VOIP', 'Other') AND "
-            "TallyAccount = " +
-            quoted(gsAccount) + " AND (NOT(GroupName IS NULL OR GroupName = ''))");
-        for (; !rows->EOF_(); rows->MoveNext())
-            list += (list.empty() ? "" : ", ") + quoted(rows->value(0).asText());
-    });
-    return list;
-}
-
-} // namespace
-
 void makeGroupGeography(GroupAreas areas) {
-    const std::string area = "[" + areaColumn(areas) + "]";
+    const std::string area = "[" + groupAreaColumn(areas) + "]";
     const std::string setArea = "UPDATE TblTempGIS SET " + area + " = ";
     dropWorkingTable("TblTempGIS");
     execute("SELECT TblMappingGIS.* INTO TblTempGIS FROM TblMappingGIS");
@@ -61,14 +23,8 @@ GroupFigures::GroupFigures(std::string table, GroupAreas areas) : table_(std::mo
 
 void GroupFigures::makeSelectedData(const CallSelection& selection) {
     noteUsedFigureEngine(FigureEngine::Statements);
-    const std::string area = "TblTempGIS." + areaColumn(areas_);
     dropWorkingTable(table_);
-    execute("SELECT IIF((TblGroups.GroupName = '') or (tblGroups.GroupName IS NULL), " + area +
-            ", tblGroups.GroupName) AS GroupName, TblTeleItem.CalledNo, TblTeleItem.AnswerInd, TblTeleItem.Discounted "
-            "INTO " +
-            table_ + " FROM (TblGroups RIGHT JOIN TblTempGIS ON TblGroups.Reference = " + area +
-            ") INNER JOIN TblTeleItem ON tbltempgis.[1141] = TblTeleItem.[1141]" +
-            (selection.where.empty() ? "" : " WHERE " + selection.where) +
+    execute(groupedCallsQuery(areas_, selection.where, " INTO " + table_) +
             " ORDER BY TblGroups.GroupName, TblTeleItem.AnswerInd");
     addAreasWithoutCalls();
 }
@@ -83,16 +39,9 @@ void GroupFigures::addAreasWithoutCalls() {
 
 void GroupFigures::makeCallers(CallerKind kind, const std::string& where) {
     const std::string table = callersTable(kind);
-    const std::string area = "TblTempGIS." + areaColumn(areas_);
-    const std::string calls = " FROM TblGroups INNER JOIN (TblTempGIS INNER JOIN TblTeleItem ON TblTempGIS.[1141] = "
-                              "TblTeleItem.[1141]) ON TblGroups.Reference = " +
-                              area + " WHERE (((TblGroups.GroupName)";
-    const std::string condition =
-        ") AND ((TblTeleItem.AnswerInd) " + outcomeTest(kind) + ")) " + (where.empty() ? "" : " AND " + where);
     dropWorkingTable(table);
-    execute("SELECT DISTINCT TblTeleItem.CallingNo, TblGroups.GroupName INTO " + table + calls + "<>''" + condition);
-    execute("INSERT INTO " + table + " ( CallingNo, GroupName ) SELECT DISTINCT TblTeleItem.CallingNo, " + area +
-            calls + "=''" + condition);
+    execute(groupCallersQuery(areas_, kind, true, where, " INTO " + table));
+    execute("INSERT INTO " + table + " ( CallingNo, GroupName ) " + groupCallersQuery(areas_, kind, false, where));
     if (kind == CallerKind::Lost)
         removeAnsweredFromLost();
 }

@@ -5,7 +5,7 @@
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/project/SystemDatabaseStep.h"
-#include "stats/GroupFigures.h"
+#include "stats/GroupScanFigures.h"
 #include "stats/StatisticsRun.h"
 
 #include <optional>
@@ -87,7 +87,7 @@ void ModData_SelectedCustomerGroups(const std::string& tableName, int period) {
         linkGroups(run);
         run.display.task("Analysing Group Data Type...");
         const auto areas = groupAreas();
-        run.figures = std::make_unique<GroupFigures>(tableName, areas.value_or(GroupAreas::Unknown));
+        run.figures = newGroupFigureSource(tableName, areas.value_or(GroupAreas::Unknown));
         countGroups(run, areas);
     });
 }

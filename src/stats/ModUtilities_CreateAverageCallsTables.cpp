@@ -1,5 +1,6 @@
 #include "stats/ModUtilities_CreateAverageCallsTables.h"
 
+#include "core/Progress.h"
 #include "data/project/Databases.h"
 #include "data/project/SystemDatabaseStep.h"
 #include "data/schema/Vocabulary.h"
@@ -89,9 +90,12 @@ void ModUtilities_CreateAverageCallsTables() {
             collect(boundaries[i]);
         else if (i < scanned->size())
             store(boundaries[i], (*scanned)[i]);
+        progress().yield();
     }
-    for (const AveragedBoundary& boundary : boundaries)
+    for (const AveragedBoundary& boundary : boundaries) {
         copy(boundary);
+        progress().yield();
+    }
     for (const AveragedBoundary& boundary : boundaries)
         onSystemDatabase([&] { dropTable(systemDatabase(), boundary.averages); });
 }

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <map>
 
 namespace {
 
@@ -19,15 +18,6 @@ bool isOneOf(const Value& text, std::initializer_list<const char*> wanted) {
     return !text.isNull() &&
            std::any_of(wanted.begin(), wanted.end(), [&](const char* one) { return equalText(text.asText(), one); });
 }
-
-/// Values in the order of SQL, null first.
-struct ByText {
-    bool operator()(const Value& a, const Value& b) const {
-        if (a.isNull() || b.isNull())
-            return a.isNull() && !b.isNull();
-        return compareText(a.asText(), b.asText()) < 0;
-    }
-};
 
 } // namespace
 
@@ -66,6 +56,7 @@ void ScanFigures::makeSelectedData(const CallSelection& selection) {
     if (auto scanned = scan(selection.where)) {
         selected_ = std::move(*scanned);
         selectedBy_ = Origin::Scan;
+        findCodesLeftOut();
         noteUsedFigureEngine(FigureEngine::Scan);
         leaveSelectedCalls(area_, selection);
         return;
@@ -102,38 +93,22 @@ auto ScanFigures::ofOthers(Origin origin, Ask ask) -> decltype(ask()) {
     return {};
 }
 
-bool ScanFigures::isLeftOut(std::size_t code) const {
-    return selection_.where.empty() && selection_.withoutUnplacedCalls &&
-           isOneOf(columns_->valuesOf(CallField::Code)[code], {"MOBILE", "UNTRACEAB", "OLO", "NO CLI"});
-}
-
-void ScanFigures::forEachSum(
-    const std::function<void(const AreaName&, const Value& answerInd, const CallSums&)>& take) const {
-    const std::vector<Value>& answerInds = columns_->valuesOf(CallField::AnswerInd);
-    std::vector<std::map<Value, CallSums, ByText>> sums(areas_->names.size());
-    for (std::size_t code = 0; code < areas_->placesOfCode.size(); ++code) {
-        if (isLeftOut(code))
-            continue;
-        for (const std::uint32_t area : areas_->boundary.areasOfCode[code]) {
-            for (std::size_t ind = 0; ind < answerInds.size(); ++ind) {
-                if (selected_.of(code, ind).calls > 0)
-                    sums[area][answerInds[ind]] += selected_.of(code, ind);
-            }
-        }
-    }
-    for (std::size_t area = 0; area < sums.size(); ++area) {
-        for (const auto& [answerInd, sum] : sums[area])
-            take(areas_->names[area], answerInd, sum);
-    }
+void ScanFigures::findCodesLeftOut() {
+    leftOut_.clear();
+    if (!selection_.where.empty() || !selection_.withoutUnplacedCalls)
+        return;
+    for (const Value& code : columns_->valuesOf(CallField::Code))
+        leftOut_.push_back(isOneOf(code, {"MOBILE", "UNTRACEAB", "OLO", "NO CLI"}));
 }
 
 std::vector<CallCount> ScanFigures::callsByArea() {
     if (selectedBy_ != Origin::Scan)
         return ofOthers(selectedBy_, [&] { return statements_.callsByArea(); });
     std::vector<CallCount> counts;
-    forEachSum([&](const AreaName& area, const Value& answerInd, const CallSums& sums) {
-        counts.push_back({area, answerInd, sums.calls - sums.callsWithoutNumber});
-    });
+    forEachSum(*columns_, selected_, areas_->boundary, leftOut_,
+               [&](std::uint32_t area, const Value& answerInd, const CallSums& sums) {
+                   counts.push_back({areas_->names[area], answerInd, sums.calls - sums.callsWithoutNumber});
+               });
     return counts;
 }
 
@@ -141,11 +116,12 @@ std::vector<MoneySum> ScanFigures::moneyByArea(CallMoney money) {
     if (selectedBy_ != Origin::Scan)
         return ofOthers(selectedBy_, [&] { return statements_.moneyByArea(money); });
     std::vector<MoneySum> rows;
-    forEachSum([&](const AreaName& area, const Value&, const CallSums& sums) {
-        const std::int64_t sum = money == CallMoney::Cost ? sums.cost : -sums.revenue;
-        if (sum != 0)
-            rows.push_back({area, Money{sum}});
-    });
+    forEachSum(*columns_, selected_, areas_->boundary, leftOut_,
+               [&](std::uint32_t area, const Value&, const CallSums& sums) {
+                   const std::int64_t sum = money == CallMoney::Cost ? sums.cost : -sums.revenue;
+                   if (sum != 0)
+                       rows.push_back({areas_->names[area], Money{sum}});
+               });
     return rows;
 }
 
@@ -186,7 +162,7 @@ SpecialRowFigures ScanFigures::specialRow(std::string_view test) {
         }
         const std::vector<Value>& answerInds = columns_->valuesOf(CallField::AnswerInd);
         for (std::size_t code = 0; code < areas_->placesOfCode.size(); ++code) {
-            if (isLeftOut(code))
+            if (!leftOut_.empty() && leftOut_[code])
                 continue;
             for (const std::uint32_t place : areas_->placesOfCode[code]) {
                 for (std::size_t ind = 0; fits[place] && ind < answerInds.size(); ++ind)

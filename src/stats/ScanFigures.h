@@ -4,10 +4,10 @@
 #include "stats/StatementFigures.h"
 #include "stats/calls/CallColumns.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 /// Figures by a scan of the calls in memory: the same rows as by statements, in hundredths of the time. A selection
 /// that does not fit columns goes to statements as a whole; where figureEngine() is Scan it is an error that is logged,
@@ -54,9 +54,7 @@ private:
     };
     Callers& callersOf(CallerKind kind) { return kind == CallerKind::Answered ? answered_ : lost_; }
     const Callers& callersOf(CallerKind kind) const { return kind == CallerKind::Answered ? answered_ : lost_; }
-    bool isLeftOut(std::size_t code) const;
-    /// Gives the sums of every area and AnswerInd with calls, in the order of both.
-    void forEachSum(const std::function<void(const AreaName&, const Value& answerInd, const CallSums&)>& take) const;
+    void findCodesLeftOut();
 
     std::string area_;
     bool ofProject_;
@@ -66,6 +64,7 @@ private:
     CallSelection selection_;
     Origin selectedBy_ = Origin::Statements;
     CallScan selected_;
+    std::vector<bool> leftOut_; ///< by id of the code; empty: none
     Callers answered_, lost_;
     std::string refusal_;
 };

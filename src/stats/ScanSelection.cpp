@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <map>
 
 namespace {
 
@@ -19,6 +20,15 @@ bool isOneOf(const Value& text, std::initializer_list<const char*> wanted) {
     return !text.isNull() &&
            std::any_of(wanted.begin(), wanted.end(), [&](const char* one) { return equalText(text.asText(), one); });
 }
+
+/// Values in the order of SQL, null first.
+struct ByText {
+    bool operator()(const Value& a, const Value& b) const {
+        if (a.isNull() || b.isNull())
+            return a.isNull() && !b.isNull();
+        return compareText(a.asText(), b.asText()) < 0;
+    }
+};
 
 } // namespace
 
@@ -47,6 +57,27 @@ bool mayAskStatements(const std::string& reason) {
         return true;
     LogError(gsCurrentProc, doesNotFit, "The figures cannot be had by a scan of the calls. " + reason);
     return false;
+}
+
+void forEachSum(const CallColumns& columns, const CallScan& scan, const ScanBoundary& boundary,
+                const std::vector<bool>& leftOut,
+                const std::function<void(std::uint32_t area, const Value& answerInd, const CallSums&)>& take) {
+    const std::vector<Value>& answerInds = columns.valuesOf(CallField::AnswerInd);
+    std::vector<std::map<Value, CallSums, ByText>> sums(boundary.areas);
+    for (std::size_t code = 0; code < boundary.areasOfCode.size(); ++code) {
+        if (!leftOut.empty() && leftOut[code])
+            continue;
+        for (const std::uint32_t area : boundary.areasOfCode[code]) {
+            for (std::size_t ind = 0; ind < answerInds.size(); ++ind) {
+                if (scan.of(code, ind).calls > 0)
+                    sums[area][answerInds[ind]] += scan.of(code, ind);
+            }
+        }
+    }
+    for (std::uint32_t area = 0; area < boundary.areas; ++area) {
+        for (const auto& [answerInd, sum] : sums[area])
+            take(area, answerInd, sum);
+    }
 }
 
 void addCalls(SpecialRowFigures& figures, const Value& answerInd, const CallSums& sums) {

@@ -26,20 +26,20 @@ std::string presentView(Database& project, const std::string& name) {
     return view.step() ? project.name() + " " + std::string(view.text(0)) : std::string();
 }
 
-void leave(const std::string& name, const std::string& query) {
+} // namespace
+
+void leaveView(const std::string& name, const std::string& query) {
     projectFigures::dropWorkingTable(name);
     onSystemDatabase([&] { projectDatabase().createView(name, query); });
 }
 
-} // namespace
-
 void leaveSelectedCalls(const std::string& area, const CallSelection& selection) {
-    leave("SelectedData", selectedCallsQuery(area, selection));
+    leaveView("SelectedData", selectedCallsQuery(area, selection));
 }
 
 void leaveCallers(CallerKind kind, const std::string& area, const std::string& where, std::vector<CallerCount> counts) {
     const std::string name = projectFigures::callersTable(kind);
-    leave(name, kind == CallerKind::Answered ? callersQuery(kind, area, where) : neverAnsweredQuery(area, where));
+    leaveView(name, kind == CallerKind::Answered ? callersQuery(kind, area, where) : neverAnsweredQuery(area, where));
     onSystemDatabase([&] { left[kind] = {presentView(projectDatabase(), name), area, std::move(counts)}; });
 }
 

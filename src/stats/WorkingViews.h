@@ -10,6 +10,9 @@
 /// the rows that the statements would have put into tables, so that no call is written. `area` is a column of
 /// TblMappingGIS. Failures are logged under gsCurrentProc and passed over.
 
+/// Leaves the rows of any query over the project behind.
+void leaveView(const std::string& name, const std::string& query);
+
 void leaveSelectedCalls(const std::string& area, const CallSelection& selection);
 
 /// `counts` are the callers by area that the view shows; they are remembered.

@@ -3,6 +3,7 @@
 #include "data/project/Databases.h"
 #include "data/types/DatabaseError.h"
 #include "stats/FigureSource.h"
+#include "stats/ModData_SelectedCustomerGroups.h"
 #include "stats/ModUtilities_CreateAverageCallsTables.h"
 #include "stats/ModUtilities_GetPayphoneStatistics.h"
 #include "tests/stats/BoundaryProject.h"
@@ -67,6 +68,40 @@ TEST_F(FigureEngines, LeaveTheSameWorkingTables) {
         EXPECT_EQ(usedFigureEngine(), scanned ? FigureEngine::Scan : FigureEngine::Statements) << selection;
         for (const std::string& table : workingTables)
             EXPECT_EQ(isView(table), scanned) << table << selection;
+    }
+    EXPECT_TRUE(project.logLines().empty()) << project.logLines().front();
+}
+
+/// Of groups the selected calls stand in a table of the name of the statistics table.
+TEST_F(FigureEngines, LeaveTheSameWorkingTablesOfGroups) {
+    gdbSystem->execute("INSERT INTO tblMappingGroupSetup_Link (TALLYACCOUNT, DataType) VALUES ('ACC', '3')");
+    gdbSystem->execute(
+        "INSERT INTO tblTempGroups (TallyAccount, Reference, GroupName) VALUES ('ACC', 'Mobile', 'Phones')");
+    project.addArea("0115", "X", "115", "LS9", "Yorkshire"); // without calls
+    for (const auto& [reference, group] : {std::pair{"LS1", "North"},
+                                           {"S1", ""},
+                                           {"Mobile", "Phones"},
+                                           {"S1", "north "},
+                                           {"VOIP", "S1"},
+                                           {"LS9", "Quiet"},
+                                           {"Other", "LS9"}})
+        gdbProject->execute(std::string("INSERT INTO TblGroups (TallyAccount, Reference, GroupName) VALUES ('ACC', '") +
+                            reference + "', '" + group + "')");
+    const std::string target = "TblSelectedDataForCustomerGroups";
+    for (const char* selection : selections) {
+        SelectionSql = selection;
+        std::vector<Rows> left[2];
+        for (const FigureEngine engine : {FigureEngine::Statements, FigureEngine::Automatic}) {
+            setFigureEngine(engine);
+            gdbSystem->execute("DELETE FROM " + target);
+            ModData_SelectedCustomerGroups(target, 1);
+            std::vector<Rows>& rows = left[engine == FigureEngine::Automatic];
+            rows = {figuresOf(target, "GroupName"), working(target), working("TblAnsweredCallers"),
+                    working("TblLostCallers")};
+        }
+        EXPECT_EQ(left[1], left[0]) << selection;
+        const bool scanned = SelectionSql.find("CallingNo") == std::string::npos;
+        EXPECT_EQ(isView(target), scanned) << selection;
     }
     EXPECT_TRUE(project.logLines().empty()) << project.logLines().front();
 }

@@ -4,6 +4,7 @@
 #include "data/types/DatabaseError.h"
 #include "stats/calls/CallReader.h"
 #include "stats/calls/CallerNumbers.h"
+#include "stats/calls/SmallPageCache.h"
 #include "stats/calls/TextIds.h"
 
 #include <bit>
@@ -295,6 +296,7 @@ bool readAll(CallReader& reader, Exchange& exchange, const CallProgress& progres
 } // namespace
 
 std::optional<CallColumns> buildCallColumns(Database& project, const CallProgress& progress) {
+    const SmallPageCache readOnce(project);
     CallReader reader(project);
     Encoder encoder(expectedRows(project));
     Exchange exchange;

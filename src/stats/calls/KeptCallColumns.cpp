@@ -5,6 +5,7 @@
 #include "stats/calls/ByteStream.h"
 #include "stats/calls/CallMark.h"
 #include "stats/calls/CallReader.h"
+#include "stats/calls/SmallPageCache.h"
 #include "stats/calls/TextIds.h"
 
 #include <lz4.h>
@@ -293,6 +294,7 @@ std::optional<CallColumns> loadCallColumns(Database& project, const CallProgress
     if (!hasKeptTable(project))
         return {};
     try {
+        const SmallPageCache readOnce(project);
         return load(project, progress);
     } catch (const DatabaseError&) {
         return {}; // whatever is wrong with them, they can be built again
