@@ -11,7 +11,7 @@ class Database;
 /// TblMappingGIS as a scan of calls needs it: the places of each code of the columns, and the areas of one boundary,
 /// which are the same where their names compare equal. Areas are in the order of their names, null first.
 struct AreasOfCodes {
-    /// Throws DatabaseError where the project lacks the table or a column.
+    /// Throws DatabaseError where the project lacks the table or a column, and 3421 where one of them is no text.
     AreasOfCodes(Database& project, const std::string& areaColumn, const CallColumns& columns);
 
     ScanBoundary boundary;
