@@ -5,8 +5,10 @@
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "report/OpenInstallation.h"
+#include "report/SelectedData.h"
 #include "report/WorkOutFilterActive.h"
 #include "stats/CurrentTables.h"
+#include "stats/FigureEngine.h"
 #include "stats/MapMaxima.h"
 #include "stats/ModData_MaxValues.h"
 #include "stats/ModData_SelectedCSGData.h"
@@ -76,6 +78,18 @@ void buildSelection(const ReportParameters& parameters) {
     }
 }
 
+/// A wanted engine counts anew what the last run may have left.
+void countSelection(const BoundaryReport& report, const ReportParameters& parameters) {
+    RecomputeSelection = figureEngine() != FigureEngine::Automatic;
+    CheckSelectedData(parameters);
+    if (!RecomputeSelection)
+        return;
+    report.procedure(std::string(report.selectedTable), 1);
+    SaveSelectedData(parameters);
+    if (report.derivesMeasures)
+        ModUtilities_CreateAverageCallsTables();
+}
+
 } // namespace
 
 std::string mainTable(long boundary) {
@@ -109,9 +123,7 @@ ReportFigures runReport(long boundary, const ReportParameters& parameters) {
     figures.filtered = FilterActive;
     figures.table = FilterActive ? report.selectedTable : report.mainTable;
     if (FilterActive)
-        report.procedure(figures.table, 1);
-    if (FilterActive && report.derivesMeasures)
-        ModUtilities_CreateAverageCallsTables();
+        countSelection(report, parameters);
     *currentTables.of(boundary) = figures.table;
     mapMaxima.resetForRun();
     ModData_MaxValues(figures.table, 1);

@@ -11,9 +11,9 @@ struct ReportFigures {
 };
 
 /// Counts what the parameters select for one boundary (0 exchanges, 1 CSGs, 2 TV regions, 3 postcode districts, 5
-/// customer groups) and finds the maxima, as a report button does. Without a filter the main table is taken as it
-/// stands. Throws RuntimeError 5 where there is no such boundary, the project has no customer groups, or the selection
-/// holds a community group that is too large.
+/// customer groups) and finds the maxima, as a report button does. Figures that the last run left are taken where it
+/// was asked for the same; without a filter the main table is taken as it stands. Throws RuntimeError 5 where there is
+/// no such boundary, the project has no customer groups, or the selection holds a community group that is too large.
 ReportFigures runReport(long boundary, const ReportParameters& parameters);
 
 /// Counts the whole project into the main table of a boundary, with the measures that are derived from it. Throws

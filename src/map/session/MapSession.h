@@ -1,0 +1,90 @@
+#pragma once
+
+#include "core/Caption.h"
+#include "groups/UpdateCustomerGroups.h"
+#include "map/MapFormState.h"
+#include "map/ThematicMap.h"
+#include "map/calltypes/CallTypeBands.h"
+#include "map/calltypes/CallTypeSplit.h"
+#include "map/detail/AreaDetail.h"
+#include "map/form/MapTypeList.h"
+#include "stats/ReportParameters.h"
+
+#include <optional>
+#include <string>
+
+class MapKey;
+class MapSurface;
+
+/// What the map window decides, without its widgets: which figures it shows of which boundary, when labels are on, what
+/// a click means. The window calls it in its handlers and shows what it holds. Surface and key outlive it. Errors are
+/// logged and passed over. Main thread.
+class MapSession {
+public:
+    MapSession(MapSurface& surface, MapKey& key);
+
+    MapFormState form;
+
+    /// Where the groups show that they are brought up to date.
+    FrameVisibility fraSaveStatus;
+    Caption lblSaveStatus, lblGroupStatus;
+
+    /// Starts on the figures that a report run has made ready: the view is that of the whole map, the map type the
+    /// first.
+    void begin(long boundary, const ReportParameters& parameters);
+    /// Builds and draws the map anew.
+    void build();
+
+    /// Counts another boundary for the same parameters and draws it, at the view of the whole map. A boundary that
+    /// cannot be shown leads back: boundary() tells where to. False where nothing has changed.
+    bool changeBoundary(long code);
+    /// Draws another measure; the view stays.
+    void changeMapType(long code);
+    /// Rates for each head of population instead of counts.
+    void setDensities(bool on);
+
+    /// The tool bar has been used, before the surface draws.
+    void toolBarClicked(long tool);
+    /// The surface has been clicked, or its view moved, before it draws.
+    void clicked();
+    /// A press of a button on the surface: zooming out past the whole map brings the whole map back.
+    void mouseDown(int button);
+    /// A draw has ended.
+    void drawFinished();
+    /// Lets go of the map. False while one is being built: it then stops at its next check.
+    bool end();
+
+    long boundary() const { return boundary_; }
+    long mapType() const { return mapType_; }
+    const std::vector<ListEntry>& mapTypes() const { return mapTypes_; }
+    bool densities() const { return densities_; }
+    const ReportParameters& parameters() const { return parameters_; }
+
+    CallTypeBars bars() const;
+    /// The pie; nothing where there is none. `failed` becomes true where it could not be read.
+    std::optional<CallTypeSplit> split(bool& failed) const;
+    AreaAnswer areaAt(int layer, long entity);
+    AreaAnswer callType(const std::string& name) const;
+    /// What lies under a table's name on the window: its areas have no place for the pie at close range.
+    bool pieHasRoom() const;
+
+private:
+    bool bringGroupsIn(long& code);
+    void useTable(const std::string& table);
+    void fitMapTypes(long wanted);
+    void showLabels(bool visible);
+    void saveEmptyMap();
+    void loadEmptyMap();
+    AreaQuestion question() const;
+
+    MapSurface& surface_;
+    MapKey& key_;
+    ThematicMap map_;
+    ReportParameters parameters_;
+    std::vector<ListEntry> mapTypes_;
+    long boundary_ = 0;
+    long mapType_ = 1;
+    bool densities_ = false;
+    bool rebuildOnDraw_ = false;
+    bool emptyMapSaved_ = false;
+};

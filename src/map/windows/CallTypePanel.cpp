@@ -1,0 +1,78 @@
+#include "map/windows/CallTypePanel.h"
+
+#include "ui/Skin.h"
+#include "ui/ucWebbyLink.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+constexpr int margin = 10, gap = 4;
+constexpr QSize barSize{36, 16};
+constexpr const char* callTypes[] = {"Mobile", "International", "VOIP", "Other"};
+
+} // namespace
+
+CallTypePanel::CallTypePanel(QWidget* parent) : QWidget(parent), lblGroup(new QLabel(tr("Group Name:"), this)) {
+    setObjectName(QStringLiteral("fraOtherCallAreas"));
+    setAccessibleName(tr("Calls with no place on the map"));
+    lblGroup->setObjectName(QStringLiteral("lblGroup"));
+    lblGroup->setProperty("role", "caption");
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(margin, margin, margin, margin);
+    grid->setSpacing(gap);
+    grid->addWidget(lblGroup, 0, 2);
+    for (int at = 0; at < 4; ++at) {
+        const QString type = QString::fromLatin1(callTypes[at]);
+        Row& row = rows_[static_cast<std::size_t>(at)];
+        row.bar = makeLink(QStringLiteral("ucwl%1Bar").arg(type), QString(), type);
+        row.bar->setAutosize(false);
+        row.bar->setFixedSize(barSize);
+        row.bar->setAccessibleName(type);
+        row.bar->setFocusPolicy(Qt::NoFocus); // its text can be reached
+        row.text = makeLink(QStringLiteral("ucwl%1Text").arg(type), type, type);
+        row.text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        row.group = new QLabel(this);
+        row.group->setObjectName(QStringLiteral("lbl%1Group").arg(type));
+        grid->addWidget(row.bar, at + 1, 0);
+        grid->addWidget(row.text, at + 1, 1);
+        grid->addWidget(row.group, at + 1, 2);
+    }
+}
+
+ucWebbyLink* CallTypePanel::makeLink(const QString& name, const QString& caption, const QString& callType) {
+    auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
+    link->setObjectName(name);
+    link->setToolTip(tr("What is known of these calls"));
+    connect(link, &ucWebbyLink::clicked, this, [this, callType] { emit chosen(callType); });
+    return link;
+}
+
+void CallTypePanel::showBars(const CallTypeBars& bars, bool withGroups) {
+    const cColours_CS colours = skinColours();
+    for (std::size_t at = 0; at < bars.size(); ++at) {
+        const auto& bar = bars[at];
+        rows_[at].bar->setBackColour(bar.band ? toColor(colours.MapColour(static_cast<int>(*bar.band)))
+                                              : QColor(Qt::white));
+        rows_[at].group->setText(QString::fromStdString(bar.groupLabel));
+        rows_[at].group->setVisible(withGroups);
+    }
+    lblGroup->setVisible(withGroups);
+    adjustSize();
+}
+
+void CallTypePanel::paintEvent(QPaintEvent*) {
+    const cColours_CS colours = skinColours();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(toColor(colours.Grey(3)));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    for (const Row& row : rows_) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(toColor(colours.Grey(4)));
+        painter.drawRect(QRectF(row.bar->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5));
+    }
+}

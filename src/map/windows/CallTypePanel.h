@@ -1,0 +1,40 @@
+#pragma once
+
+#include "map/calltypes/CallTypeBands.h"
+
+#include <QWidget>
+
+#include <array>
+
+class QLabel;
+class ucWebbyLink;
+
+/// fraOtherCallAreas: the calls without a place on the map, each with a bar in the colour that the map would give it,
+/// and on maps of customer groups the name of its group. Bar and text lead to what is known of the calls.
+class CallTypePanel : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CallTypePanel(QWidget* parent = nullptr);
+
+    void showBars(const CallTypeBars& bars, bool withGroups);
+
+signals:
+    /// "Mobile", "International", "VOIP" or "Other".
+    void chosen(const QString& callType);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Row {
+        ucWebbyLink* bar;
+        ucWebbyLink* text;
+        QLabel* group;
+    };
+
+    ucWebbyLink* makeLink(const QString& name, const QString& caption, const QString& callType);
+
+    QLabel* lblGroup;
+    std::array<Row, 4> rows_{};
+};

@@ -1,0 +1,195 @@
+#include "map/windows/FrmMap.h"
+
+#include "core/ModDeclarations.h"
+#include "core/cPathControl.h"
+#include "data/project/Databases.h"
+#include "map/surface/windows/MapSurfaceWidget.h"
+#include "map/surface/windows/MapToolBar.h"
+#include "map/windows/CallTypePie.h"
+#include "map/windows/FrmCallDetail.h"
+#include "report/CaptureProject.h"
+#include "report/OpenInstallation.h"
+#include "report/ReportRun.h"
+#include "sample/installation/SampleInstallation.h"
+#include "tests/support/ScriptedPrompts.h"
+#include "tests/support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+namespace {
+
+/// The map of a captured sample project, shown at a size that a small screen has.
+class FrmMapTest : public testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        folder_ = new TemporaryFolder;
+        const auto sample = sample::makeSampleInstallation({.folder = folder_->text(), .calls = 5'000, .seed = 2});
+        openInstallation(folder_->text());
+        gsFontName = "Calibri";
+        openProject(sample.projectPath);
+        captureProject();
+    }
+    static void TearDownTestSuite() {
+        resetGlobals();
+        resetDefaultWorkspace();
+        delete folder_;
+    }
+
+    FrmMapTest() { window_.resize(1280, 760); }
+
+    void show(long boundary) {
+        runReport(boundary, wholeProject());
+        window_.showReport(boundary, wholeProject());
+        QCoreApplication::processEvents();
+    }
+    void choose(const char* list, const QString& text) {
+        auto* box = window_.findChild<QComboBox*>(list);
+        const int row = box->findText(text);
+        ASSERT_GE(row, 0) << text.toStdString();
+        box->setCurrentIndex(row);
+        emit box->activated(row);
+        QCoreApplication::processEvents();
+    }
+    QString readOut(int index) {
+        return window_.findChild<QLabel*>(QStringLiteral("LblStatusValue_%1").arg(index))->text();
+    }
+    MapSurface& surface() { return window_.MapSurface1()->surface(); }
+    bool labelsAreOn() { return surface().scene().layers.back().LayerVisible; }
+
+    inline static TemporaryFolder* folder_ = nullptr;
+    ScriptedPrompts prompts_;
+    FrmMap window_;
+};
+
+TEST_F(FrmMapTest, ComesUpWithTheMapItsKeyAndItsReadOuts) {
+    show(2);
+    EXPECT_TRUE(window_.isVisible());
+    EXPECT_EQ(window_.findChild<QComboBox*>("CmbBoundary")->currentText(), "TV Regions");
+    EXPECT_EQ(window_.findChild<QComboBox*>("cmbMapType")->currentText(), "Total Calls");
+    EXPECT_EQ(readOut(4).toStdString(), window_.session().form.extremes[2].MapMaxName);
+    EXPECT_FALSE(readOut(5).isEmpty());
+    EXPECT_EQ(readOut(2), "00:00:00");
+    EXPECT_TRUE(window_.findChild<QLabel*>("LblStatusValue_6")->isVisible());
+    EXPECT_TRUE(window_.findChild<CallTypePie*>("fraPie")->isVisible());
+    EXPECT_FALSE(surface().picture().isNull());
+    EXPECT_TRUE(prompts_.texts.empty()) << prompts_.texts.front();
+}
+
+TEST_F(FrmMapTest, EveryBoundaryAndMeasureIsReachedThroughTheLists) {
+    show(2);
+    for (const char* boundary : {"Exchange Locations", "CSG's", "Post Code Districts", "TV Regions"}) {
+        choose("CmbBoundary", boundary);
+        EXPECT_EQ(window_.findChild<QComboBox*>("CmbBoundary")->currentText(), boundary);
+        auto* types = window_.findChild<QComboBox*>("cmbMapType");
+        EXPECT_EQ(types->findText("Average Calls Per Caller") >= 0,
+                  gsBoundaryType == "TVRegion" || gsBoundaryType == "PostcodeDistrict");
+        for (int row = 0; row < types->count(); ++row) {
+            choose("cmbMapType", types->itemText(row));
+            EXPECT_EQ(types->currentIndex(), row);
+            EXPECT_TRUE(window_.session().form.mapReady);
+        }
+        choose("cmbMapType", "Total Calls");
+    }
+    EXPECT_TRUE(prompts_.texts.empty()) << prompts_.texts.front();
+}
+
+TEST_F(FrmMapTest, AveragesRevertWhereTheyDoNotExist) {
+    show(2);
+    choose("cmbMapType", "Average Calls Per Caller");
+    choose("CmbBoundary", "CSG's");
+    ASSERT_EQ(prompts_.texts.size(), 1U);
+    EXPECT_EQ(prompts_.texts[0],
+              "Average Calls Per Caller Report only applicable to TV Regions and Postcode Districts. "
+              "Reverting to Total Calls");
+    EXPECT_EQ(window_.findChild<QComboBox*>("cmbMapType")->currentText(), "Total Calls");
+    EXPECT_FALSE(window_.findChild<QLabel*>("LblStatusValue_6")->isVisible()) << "CSGs have no minimum";
+}
+
+TEST_F(FrmMapTest, ChangingTheMeasureKeepsTheViewAndTheBoundaryDoesNot) {
+    show(3);
+    const double whole = surface().MapScale();
+    surface().setMapScale(whole / 20);
+    choose("cmbMapType", "Cost");
+    EXPECT_DOUBLE_EQ(surface().MapScale(), whole / 20);
+    choose("CmbBoundary", "TV Regions");
+    EXPECT_NEAR(surface().MapScale(), whole, whole / 100);
+}
+
+TEST_F(FrmMapTest, LabelsOfDistrictsAppearBelowTheirScaleAndGoAtFullExtent) {
+    show(3);
+    EXPECT_FALSE(labelsAreOn());
+    surface().setMapScale(9'000);
+    emit window_.MapSurface1()->Click();
+    EXPECT_TRUE(labelsAreOn());
+    surface().setMapScale(10'000);
+    emit window_.MapSurface1()->Click();
+    EXPECT_FALSE(labelsAreOn());
+    surface().setMapScale(9'000);
+    emit window_.MapSurface1()->Click();
+    QTest::mouseClick(window_.MapSurface1()->toolBar().button(MapTool::ZoomToExtent), Qt::LeftButton);
+    QTest::qWait(50);
+    EXPECT_FALSE(labelsAreOn());
+    EXPECT_GT(surface().MapScale(), 80'000);
+}
+
+TEST_F(FrmMapTest, ZoomingOutPastTheMapBringsTheWholeMapBack) {
+    show(2);
+    const double whole = surface().MapScale();
+    QTest::mouseClick(window_.MapSurface1()->toolBar().button(MapTool::ZoomOut), Qt::LeftButton);
+    surface().setMapScale(16'000);
+    surface().CentreMapOn(0, 0);
+    QTest::mouseClick(&window_.MapSurface1()->canvas(), Qt::LeftButton, {}, QPoint(300, 300));
+    QTest::qWait(50);
+    EXPECT_NEAR(surface().MapScale(), whole, whole / 100);
+    EXPECT_EQ(surface().UIMode(), MapTool::ZoomOut);
+}
+
+TEST_F(FrmMapTest, AClickOnAnAreaTellsWhatIsKnownOfIt) {
+    show(2);
+    QTest::mouseClick(window_.MapSurface1()->toolBar().button(MapTool::Information), Qt::LeftButton);
+    EXPECT_TRUE(window_.findChild<QWidget*>("fraOtherCallAreas")->isVisible());
+    QString title;
+    QTimer::singleShot(100, [&] {
+        if (auto* dialog = qobject_cast<FrmCallDetail*>(QApplication::activeModalWidget())) {
+            title = dialog->findChild<QLabel*>("lblTitle", Qt::FindChildrenRecursively)->text();
+            for (QLabel* label : dialog->findChildren<QLabel*>()) {
+                if (label->text().startsWith("TV Region = "))
+                    title = label->text();
+            }
+            dialog->reject();
+        }
+    });
+    const AreaAnswer mobile = window_.session().callType("Mobile");
+    ASSERT_TRUE(mobile.detail.has_value()) << mobile.message;
+    emit window_.MapSurface1()->MapEntityInfo(0, 1);
+    QTest::qWait(300);
+    EXPECT_TRUE(title.startsWith("TV Region = ")) << title.toStdString();
+    emit window_.MapSurface1()->MapEntityInfo(-1, -1);
+    QTest::qWait(20);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(FrmMapTest, TheExitClosesItAndASecondReportOpensItAgain) {
+    show(2);
+    int closed = 0;
+    QObject::connect(&window_, &FrmMap::closed, [&] { ++closed; });
+    QTest::mouseClick(window_.findChild<QPushButton*>("CmdExit"), Qt::LeftButton);
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_EQ(closed, 1);
+    show(1);
+    EXPECT_TRUE(window_.isVisible());
+    EXPECT_EQ(window_.findChild<QComboBox*>("CmbBoundary")->currentText(), "CSG's");
+    if (qEnvironmentVariableIsSet("CALLSCOPE_PICTURE"))
+        window_.grab().save(qEnvironmentVariable("CALLSCOPE_PICTURE"));
+}
+
+} // namespace
