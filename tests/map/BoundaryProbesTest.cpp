@@ -102,20 +102,15 @@ INSTANTIATE_TEST_SUITE_P(Boundaries, EachBoundary, testing::Values(Exchanges, Cs
 
 TEST_P(EachGeography, CustomerGroupsLieBesideWhiteLandAndIreland) {
     const auto& [dataType, row] = GetParam();
-    addTables({"PNT_GROUPS"});
+    addGroupTables(dataType);
     for (const char* name : {row.shapes, row.figures}) {
         if (!map.database().tableDefs().find(name))
             createVocabularyTable(map.database(), DatabaseKind::SystemMap, name);
         map.database().execute("DELETE FROM " + std::string(name));
     }
-    map.database().execute(
-        "CREATE TABLE TblGroup_Link (TallyAccount Text(50), Reference Text(50), GroupName Text(50))");
-    map.database().execute("CREATE TABLE tblMappingGroupSetup_Link (TALLYACCOUNT Text(50), DataType Text(40))");
     map.database().execute("INSERT INTO TblGroup_Link VALUES ('ACC', 'Grouped', 'One')");
     map.database().execute("INSERT INTO TblGroup_Link VALUES ('ACC', 'Free', '')");
     map.database().execute("INSERT INTO TblGroup_Link VALUES ('OTHER', 'Foreign', '')");
-    if (*dataType != '\0')
-        map.database().execute("INSERT INTO tblMappingGroupSetup_Link VALUES ('ACC', '" + std::string(dataType) + "')");
     int id = 0;
     for (const char* name : {"Grouped", "Free", "Foreign", "Republic Of Ireland"}) {
         ++id;
@@ -124,7 +119,6 @@ TEST_P(EachGeography, CustomerGroupsLieBesideWhiteLandAndIreland) {
     }
     addPolygon(map.database(), "PGN_GROUPS", 1, "One", {{squareRing(100, 0, 100)}}, "GROUPNAME");
     addFigure(map.database(), "TblCustomerGroups", "GroupName", "One", "TotalCalls1", 900);
-    tables.CustomerGroups = "TblCustomerGroups";
     *tables.of(row.code) = "TblOther";
 
     EXPECT_TRUE(thematic.CreateMap(5, 1, 1));

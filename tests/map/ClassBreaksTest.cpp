@@ -90,6 +90,14 @@ TEST(ClassBreaks, TinyMaximaHaveATopOfTwoThirds) {
     EXPECT_EQ(bandList(0.0), "0,0,0,0,0,0,0,0");
 }
 
+TEST(ClassBreaks, TheSmallestStepsAreWrittenAsDecimals) {
+    EXPECT_EQ(bandList(0.002), "0.000125,0.00025,0.000375,0.0005,0.000625,0.00075,0.000875,0.001");
+    EXPECT_EQ(namesFor(0.002)[0], "0 to 0.000124");
+    EXPECT_EQ(namesFor(0.002)[4], "0.0005 to 0.000624");
+    EXPECT_EQ(topOfScale(0.0007), 0.0) << "0.000462 rounds to nothing";
+    EXPECT_EQ(topOfScale(0.0025 / 0.66), 0.002) << "half to even";
+}
+
 TEST(ClassBreaks, FromAMillionOnTheMaximumIsTheTop) {
     EXPECT_EQ(bandList(1000000), "1, 5,125000,250000,375000,500000,625000,750000,875000,1000000");
     EXPECT_EQ(bandList(1234567), "1, 5,154320.875,308641.75,462962.625,617283.5,771604.375,925925.25,1080246.125,"

@@ -7,6 +7,9 @@
 #include "tests/support/ScriptedPrompts.h"
 #include "ui/cColours_CS.h"
 
+#include <initializer_list>
+#include <string>
+
 /// A small installation with everything that builds a thematic map of it. The view is 300 x 100 pixels.
 struct MapOnFile {
     MapOnFile() {
@@ -18,6 +21,16 @@ struct MapOnFile {
     void addTables(std::initializer_list<const char*> names) {
         for (const char* name : names)
             createVocabularyTable(map.database(), DatabaseKind::SystemMap, name);
+    }
+    /// Tables of customer groups without rows. `dataType`: what groups are made of; empty: nobody has said.
+    void addGroupTables(const std::string& dataType) {
+        addTables({"PNT_GROUPS"});
+        map.database().execute(
+            "CREATE TABLE TblGroup_Link (TallyAccount Text(50), Reference Text(50), GroupName Text(50))");
+        map.database().execute("CREATE TABLE tblMappingGroupSetup_Link (TALLYACCOUNT Text(50), DataType Text(40))");
+        if (!dataType.empty())
+            map.database().execute("INSERT INTO tblMappingGroupSetup_Link VALUES ('ACC', '" + dataType + "')");
+        tables.CustomerGroups = "TblCustomerGroups";
     }
 
     SmallMap map;

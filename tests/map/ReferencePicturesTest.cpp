@@ -57,18 +57,13 @@ TEST_F(ReferencePictures, RegionsInTheColoursOfTheirBands) {
 }
 
 TEST_F(ReferencePictures, GroupsOverWhiteLand) {
-    addTables({"PNT_GROUPS"});
-    map.database().execute(
-        "CREATE TABLE TblGroup_Link (TallyAccount Text(50), Reference Text(50), GroupName Text(50))");
-    map.database().execute("CREATE TABLE tblMappingGroupSetup_Link (TALLYACCOUNT Text(50), DataType Text(40))");
-    map.database().execute("INSERT INTO tblMappingGroupSetup_Link VALUES ('ACC', '2')");
+    addGroupTables("2");
     for (const char* region : {"Middle", "Crown"})
         map.database().execute("INSERT INTO TblGroup_Link VALUES ('ACC', '" + std::string(region) + "', Null)");
     addPolygon(map.database(), "PGN_TV", 14, "Republic Of Ireland", {{squareRing(-120, 20, 100)}});
     addPolygon(map.database(), "PGN_GROUPS", 1, "Both", {{squareRing(0, 0, 100), squareRing(200, 0, 100)}},
                "GROUPNAME");
     addFigure(map.database(), "TblCustomerGroups", "GroupName", "Both", "TotalCalls1", 500);
-    tables.CustomerGroups = "TblCustomerGroups";
     thematic.CreateMap(5, 1, 1);
     surface.CentreMapOn(100, 90);
     surface.setMapScale(480);

@@ -1,20 +1,16 @@
 #include "map/ReportPicture.h"
 
-#include "map/ThematicMap.h"
-#include "map/surface/MapKey.h"
-#include "map/surface/MapSurface.h"
-#include "tests/map/SmallMap.h"
+#include "tests/map/MapOnFile.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-class ReportPictureOnFile : public testing::Test {
+class ReportPictureOnFile : public testing::Test, protected MapOnFile {
 protected:
     ReportPictureOnFile() {
         tables.TV = "TblTV";
-        maxima.MaxTotalCalls = 900;
-        ThematicMap(surface, key, form, tables, maxima).CreateMap(2, 1, 1);
+        thematic.CreateMap(2, 1, 1);
     }
 
     int pixelsOf(const QImage& picture, QColor colour, const QRect& area) const {
@@ -25,13 +21,6 @@ protected:
         }
         return count;
     }
-
-    SmallMap map;
-    MapSurface surface;
-    MapKey key{surface};
-    MapFormState form;
-    CurrentTables tables;
-    MapMaxima maxima;
 };
 
 } // namespace
@@ -55,7 +44,7 @@ TEST_F(ReportPictureOnFile, APreparedMapIsDrawnOnce) {
     surface.DrawMapFinished = [&] { ++draws; };
     form.extentCaptured = false;
     prepareReportMap(surface, size);
-    ThematicMap(surface, key, form, tables, maxima).CreateMap(2, 1, 1);
+    thematic.CreateMap(2, 1, 1);
     const ReportCaption caption{"TV Regions", "", "", true};
     const QImage picture = drawReportPicture(surface, key, form, caption, size);
     EXPECT_EQ(draws, 1);

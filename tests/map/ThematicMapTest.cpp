@@ -1,12 +1,7 @@
-#include "map/ThematicMap.h"
-
+#include "core/LogAndGoOn.h"
 #include "core/ModDeclarations.h"
 #include "map/surface/LayerSource.h"
-#include "map/surface/MapKey.h"
-#include "map/surface/MapSurface.h"
-#include "tests/map/SmallMap.h"
-#include "tests/support/ScriptedPrompts.h"
-#include "ui/cColours_CS.h"
+#include "tests/map/MapOnFile.h"
 
 #include <gtest/gtest.h>
 
@@ -16,13 +11,9 @@ constexpr long TotalCalls = 1;
 constexpr long Revenue = 5;
 constexpr long Tv = 2;
 
-class ThematicMapOnFile : public testing::Test {
+class ThematicMapOnFile : public testing::Test, protected MapOnFile {
 protected:
-    ThematicMapOnFile() {
-        surface.setPixelSize({300, 100});
-        tables.TV = "TblTV";
-        maxima.MaxTotalCalls = 900;
-    }
+    ThematicMapOnFile() { tables.TV = "TblTV"; }
 
     std::vector<std::string> layerNames() const {
         std::vector<std::string> names;
@@ -31,34 +22,17 @@ protected:
         return names;
     }
 
-    QColor bandColour(int band) const { return QColor::fromRgb(cColours_CS().MapColour(band)); }
-
     /// Customer groups over TV regions: group "One" covers the West, the Middle belongs to no group.
     void addGroups();
-
-    SmallMap map;
-    ScriptedPrompts messages;
-    MapSurface surface;
-    MapKey key{surface};
-    MapFormState form;
-    CurrentTables tables;
-    MapMaxima maxima;
-    ThematicMap thematic{surface, key, form, tables, maxima};
 };
 
 void ThematicMapOnFile::addGroups() {
-    for (const char* table : {"PNT_GROUPS"})
-        createVocabularyTable(map.database(), DatabaseKind::SystemMap, table);
-    map.database().execute(
-        "CREATE TABLE TblGroup_Link (TallyAccount Text(50), Reference Text(50), GroupName Text(50))");
-    map.database().execute("CREATE TABLE tblMappingGroupSetup_Link (TALLYACCOUNT Text(50), DataType Text(40))");
+    addGroupTables("2");
     map.database().execute("INSERT INTO TblGroup_Link VALUES ('ACC', 'West', 'One')");
     map.database().execute("INSERT INTO TblGroup_Link VALUES ('ACC', 'Middle', Null)");
-    map.database().execute("INSERT INTO tblMappingGroupSetup_Link VALUES ('ACC', '2')");
     addPolygon(map.database(), "PGN_GROUPS", 1, "One", {{squareRing(0, 0, 100)}}, "GROUPNAME");
     addPolygon(map.database(), "PGN_TV", 14, "Republic Of Ireland", {{squareRing(-100, 0, 100)}});
     addFigure(map.database(), "TblCustomerGroups", "GroupName", "One", "TotalCalls1", 900);
-    tables.CustomerGroups = "TblCustomerGroups";
 }
 
 } // namespace
@@ -174,6 +148,17 @@ TEST_F(ThematicMapOnFile, FailuresAreLoggedAndTheRestIsBuilt) {
     EXPECT_EQ(key.sections().size(), 1u);
     EXPECT_GE(map.installation.logLinesWith("\"FrmMap_CreateMap\""), 3);
     EXPECT_TRUE(form.CmdExitEnabled);
+}
+
+TEST_F(ThematicMapOnFile, GroupsByAMeasureThatTheyDoNotHaveAreStillLand) {
+    addGroups();
+    thematic.CreateMap(5, 8, 1);
+    surface.CentreMapOn(100, 50);
+    surface.setMapScale(400);
+    surface.setLayerIndex(1);
+    EXPECT_EQ(surface.layer().LayerFields, "PGN_TV.NAME, TblTV.TVRegion");
+    ignoreErrors([&] { surface.DrawMap(); });
+    EXPECT_EQ(colourAt(surface, 120, 20), QColor(Qt::white));
 }
 
 TEST_F(ThematicMapOnFile, AnUnknownBoundaryDrawsNothing) {

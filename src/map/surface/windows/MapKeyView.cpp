@@ -43,7 +43,7 @@ void paintEmpty(QPainter& painter, const QRect& area) {
     }
     painter.setPen(MutedText);
     painter.drawText(area.adjusted(Padding, top, -Padding, 0), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                     MapKeyView::tr("The colours of the map are told here once it is drawn."));
+                     MapKeyView::tr("The colours of the map will be listed here."));
 }
 
 } // namespace
