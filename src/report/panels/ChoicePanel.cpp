@@ -6,7 +6,7 @@
 namespace {
 
 /// Columns of "all", an option, its list, a gap, an option, its list: they stand below each other in all panels.
-constexpr int columnWidths[] = {136, 120, 144, 8, 152, 144};
+constexpr int columnWidths[] = {136, 120, 104, 8, 152, 104};
 
 constexpr int columnOfOption(int option) {
     return option == 0 ? 0 : 3 * option - 2;
