@@ -37,10 +37,10 @@ struct Mask {
 void spread(const Mask& from, Mask& to, int dx, int dy) {
     const int left = std::max(0, dx), right = std::min(to.width, to.width + dx);
     for (int y = std::max(0, dy); y < std::min(to.height, to.height + dy); ++y) {
-        const uchar* source = from.row(y - dy) - dx;
+        const uchar* source = from.row(y - dy);
         uchar* target = to.row(y);
         for (int x = left; x < right; ++x)
-            target[x] = source[x] > target[x] ? source[x] : target[x];
+            target[x] = source[x - dx] > target[x] ? source[x - dx] : target[x];
     }
 }
 
