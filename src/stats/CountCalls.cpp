@@ -28,7 +28,7 @@ void writeTally(StatisticsRun& run, const CallTally& tally) {
 
 void countCalls(StatisticsRun& run) {
     run.display.task(run.boundary.texts.calls);
-    onSystemDatabase([&] { run.target.read(); });
+    onSystemDatabase([&] { run.target.fromStart(); });
     const std::vector<CallCount> counts = run.figures->callsByArea();
     AreaName previous;
     bool placed = false;

@@ -16,7 +16,7 @@ bool findArea(StatisticsRun& run, const std::string& area) {
 /// The sums come in the order of the areas, one for each AnswerInd of an area. Searching forward, the area's first sum
 /// is written and the others find nothing.
 void writeSums(StatisticsRun& run, const std::vector<MoneySum>& sums, Measure measure) {
-    onSystemDatabase([&] { run.target.read(); });
+    onSystemDatabase([&] { run.target.fromStart(); });
     for (std::size_t i = 0; i < sums.size(); ++i) {
         run.display.position(sums.size(), i);
         if (!sums[i].area || !run.boundary.summedAreas.takes(*sums[i].area))

@@ -38,7 +38,14 @@ Recordset& TargetTable::rows() {
 void TargetTable::read() {
     rows_ = systemDatabase().openRecordset("SELECT * FROM " + table_ + " ORDER BY " + areaColumn_);
     hit_ = false;
+    grown_ = false;
     findColumns();
+}
+
+void TargetTable::fromStart() {
+    if (!rows_ || grown_)
+        read();
+    hit_ = false;
 }
 
 void TargetTable::findColumns() {
@@ -89,6 +96,7 @@ std::string TargetTable::upperAreaIs(std::string_view area) const {
 }
 
 void TargetTable::addArea(const Value& area) {
+    grown_ = true;
     rows().AddNew();
     rows().set(0, area);
     for (int position = 1; position < rows().fieldCount(); ++position)

@@ -31,6 +31,8 @@ public:
 
     /// Reads the rows anew; the next forward search begins with the first of them.
     void read();
+    /// The same where the rows are those that were read, in their order: reads anew only where one was added.
+    void fromStart();
     void close();
 
     /// From the first row.
@@ -62,4 +64,5 @@ private:
     std::shared_ptr<Recordset> rows_;
     std::map<Measure, int> positions_; ///< of the columns that the table has
     bool hit_ = false;
+    bool grown_ = false; ///< since read()
 };
