@@ -63,13 +63,13 @@ void DesktopStart::showMainWindow() {
 
 void DesktopStart::connectMainWindow() {
     FrmMain* window = mainWindow_.get();
-    links_ = std::make_unique<ProjectLinks>(*window);
+    reports_ = std::make_unique<ReportRequest>(*window, progress_);
+    links_ = std::make_unique<ProjectLinks>(*window, *reports_);
     progress_.showReportOn(window->Label8(), window->Prog1());
     // Once the list is done with the click: opening a project fills it anew.
     QObject::connect(
         window, &FrmMain::historyRowChosen, window, [this](int row) { links_->openRow(row); }, Qt::QueuedConnection);
-    QObject::connect(window, &FrmMain::reportRequested, window,
-                     [window](int index) { runRequestedReport(*window, index); });
+    QObject::connect(window, &FrmMain::reportRequested, window, [this](int index) { reports_->run(index); });
     QObject::connect(window, &FrmMain::helpRequested, window, openHelp);
     QObject::connect(window, &FrmMain::populationFiguresRequested, window,
                      [] { sayNotBuilt("The editor of population figures"); });

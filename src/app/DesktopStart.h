@@ -10,6 +10,7 @@
 
 class FrmMain;
 class ProjectLinks;
+class ReportRequest;
 
 /// The start on a desktop: real windows, and the procedures of the other rooms.
 class DesktopStart : public StartActions {
@@ -37,5 +38,6 @@ private:
     std::vector<std::string> arguments_;
     WindowProgress progress_;
     std::unique_ptr<FrmMain> mainWindow_;
+    std::unique_ptr<ReportRequest> reports_;
     std::unique_ptr<ProjectLinks> links_;
 };

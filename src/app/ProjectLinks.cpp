@@ -1,7 +1,9 @@
 #include "app/ProjectLinks.h"
 
+#include "app/ReportRequest.h"
 #include "core/ModDeclarations.h"
 #include "core/cPathControl.h"
+#include "map/windows/FrmMap.h"
 #include "report/FrmMain.h"
 #include "report/FrmMain_lsthistory_click.h"
 #include "ui/FrmMessage.h"
@@ -67,4 +69,12 @@ std::optional<std::string> ProjectLinks::chooseProject(const std::string& sugges
 
 void ProjectLinks::showCapture(const std::function<void()>& work) {
     FrmMessage(work, &window_).run();
+}
+
+void ProjectLinks::CmdReport_Click() {
+    reports_.runPresentBoundary();
+}
+
+void ProjectLinks::removeCustomerGroups() {
+    reports_.map().removeCustomerGroups();
 }

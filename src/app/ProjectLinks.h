@@ -3,11 +3,12 @@
 #include "report/ProjectWindow.h"
 
 class FrmMain;
+class ReportRequest;
 
 /// What the opening of a project asks for, given by the main window, a file dialogue and FrmMessage.
 class ProjectLinks : public ProjectWindow {
 public:
-    explicit ProjectLinks(FrmMain& window) : window_(window) {}
+    ProjectLinks(FrmMain& window, ReportRequest& reports) : window_(window), reports_(reports) {}
 
     /// Opens the project of a row of LstHistory, from 0. Meanwhile no other row can be chosen.
     void openRow(int row);
@@ -24,12 +25,13 @@ public:
     std::optional<std::string> chooseProject(const std::string& suggested) override;
     void showCapture(const std::function<void()>& work) override;
 
-    /// The map window, which these lead to, has not been built into the program: the user starts from the parameters.
-    void CmdReport_Click() override {}
+    void CmdReport_Click() override;
+    /// The report that follows draws pie and map with its window.
     bool DrawPieChart() override { return true; }
     void CreateMap() override {}
-    void removeCustomerGroups() override {}
+    void removeCustomerGroups() override;
 
 private:
     FrmMain& window_;
+    ReportRequest& reports_;
 };

@@ -4,43 +4,82 @@
 #include "core/ModDeclarations.h"
 #include "core/Progress.h"
 #include "core/Prompts.h"
+#include "data/project/Databases.h"
+#include "data/project/UpdateMappingGISTable.h"
+#include "groups/AccountGroups.h"
+#include "groups/ChangedGroups.h"
+#include "groups/UpdateCustomerGroups.h"
+#include "map/Boundaries.h"
+#include "map/windows/FrmMap.h"
 #include "report/CheckReportInput.h"
 #include "report/FrmMain.h"
 #include "report/ReportRun.h"
 #include "report/panels/ReportButtons.h"
+#include "ui/WindowProgress.h"
 
 #include <QListWidget>
+
+#include <array>
+#include <utility>
 
 namespace {
 
 constexpr long steps = 5;
+constexpr long tvRegions = 2, customerGroups = 5;
 
-/// The boundary that a button of a single map stands for.
+/// The boundaries that the buttons of a single map stand for.
+constexpr std::array boundaryButtons{std::pair{ReportButtons::exchanges, 0L}, std::pair{ReportButtons::csgs, 1L},
+                                     std::pair{ReportButtons::tvRegions, tvRegions},
+                                     std::pair{ReportButtons::postCodeDistricts, 3L},
+                                     std::pair{ReportButtons::customerGroups, customerGroups}};
+
 long boundaryOf(int index) {
-    switch (index) {
-    case ReportButtons::exchanges:
-        return 0;
-    case ReportButtons::csgs:
-        return 1;
-    case ReportButtons::tvRegions:
-        return 2;
-    case ReportButtons::postCodeDistricts:
-        return 3;
-    default:
-        return 5;
+    for (const auto& [button, boundary] : boundaryButtons) {
+        if (button == index)
+            return boundary;
     }
+    return customerGroups;
 }
 
+int buttonOf(std::string_view boundaryType) {
+    for (const auto& [button, code] : boundaryButtons) {
+        if (findBoundary(code)->boundaryType == boundaryType)
+            return button;
+    }
+    return ReportButtons::tvRegions;
+}
+
+/// The groups are as Callscope has them. False where the user stopped, or they cannot be.
+bool groupsAreReady() {
+    if (!accountHasGroups()) {
+        showMessage("No Customer Groups have been set up. Please do this in Callscope before attempting to update "
+                    "Groups with Callscope Mapping");
+        return false;
+    }
+    long result = 0;
+    FrmMain_UpdateCustomerGroups(result);
+    if (result != 0 && result != UserStopped)
+        showMessage("Could not update Customer Groups");
+    return result == 0;
+}
+
+void bringGeographyUpToDate() {
+    if (ModUtilities_UpdateMappingGISTable(projectDatabase()) != 0)
+        showMessage("An error occurred updating the Exchange GIS data");
+}
+
+} // namespace
+
 /// The window takes no input, and its list of projects keeps a second run out, as long as it lives.
-class Fence {
+class ReportRequest::Fence {
 public:
     explicit Fence(FrmMain& window) : window_(window) {
-        window.setBusy(true);
+        window.LstHistory()->setEnabled(false);
         window.DisableForm();
     }
     ~Fence() {
         progress().setReportBar(false, steps, 0);
-        window_.setBusy(false);
+        window_.LstHistory()->setEnabled(true);
         window_.EnableForm();
     }
     Fence(const Fence&) = delete;
@@ -50,49 +89,80 @@ private:
     FrmMain& window_;
 };
 
-/// Whether there are figures now.
-bool countSingleMap(FrmMain& window, int index) {
-    const Fence fence(window);
-    const ReportParameters parameters = window.parameters();
+ReportRequest::ReportRequest(FrmMain& window, WindowProgress& progress) : window_(window), progress_(progress) {}
+
+ReportRequest::~ReportRequest() = default;
+
+FrmMap& ReportRequest::map() {
+    if (!map_) {
+        map_ = std::make_unique<FrmMap>();
+        QObject::connect(map_.get(), &FrmMap::closed, &window_, [this] { mapClosed(); });
+        QObject::connect(map_.get(), &FrmMap::helpRequested, &window_, &FrmMain::helpRequested);
+    }
+    return *map_;
+}
+
+void ReportRequest::mapClosed() {
+    progress_.showReportOn(window_.Label8(), window_.Prog1());
+    fence_.reset();
+    window_.activateWindow();
+}
+
+bool ReportRequest::count(long boundary) {
+    bringGeographyUpToDate();
+    const ReportParameters parameters = window_.parameters();
     if (!checkDates(parameters) || !checkChoices(parameters) || !confirmTimes(parameters))
+        return false;
+    if (boundary == customerGroups && !groupsAreReady())
         return false;
     const Hourglass hourglass;
     progress().setReportBar(true, steps, 0);
     progress().yield();
-    runReport(boundaryOf(index), parameters);
+    runReport(boundary, parameters);
     progress().setReportBar(true, steps, steps);
     progress().yield();
     return true;
 }
 
-bool checkSeveralMaps(FrmMain& window) {
-    const Fence fence(window);
-    const ReportParameters parameters = window.parameters();
-    return checkChoices(parameters) && checkRanges(parameters, window.multiMapParameters());
+bool ReportRequest::checkSeveralMaps() {
+    const ReportParameters parameters = window_.parameters();
+    return checkChoices(parameters) && checkRanges(parameters, window_.multiMapParameters());
 }
 
-} // namespace
+void ReportRequest::showMap(long boundary) {
+    progress().setReportBar(false, steps, 0);
+    progress_.showReportOn(map().Label8(), map().Prog1());
+    map().showReport(boundary, window_.parameters());
+}
 
-void runRequestedReport(FrmMain& window, int index) {
-    if (!window.LstHistory()->isEnabled())
+void ReportRequest::runPresentBoundary() {
+    run(buttonOf(gsBoundaryType));
+}
+
+void ReportRequest::run(int index) {
+    if (fence_ || !window_.LstHistory()->isEnabled())
         return;
     if (index == ReportButtons::chooseProject) {
-        window.LstHistory()->setCurrentRow(0);
-        window.LstHistory()->setFocus();
+        window_.LstHistory()->setCurrentRow(0);
+        window_.LstHistory()->setFocus();
         return;
     }
     gsCurrentProc = "FrmMain_CmdReport_Click";
+    fence_ = std::make_unique<Fence>(window_);
+    bool shown = false;
     try {
         if (index == ReportButtons::multipleMaps) {
-            if (checkSeveralMaps(window))
+            if (checkSeveralMaps())
                 showMessage("The settings are in order. The window of several maps is not part of this program yet.",
                             PromptStyle::Information);
-        } else if (countSingleMap(window, index)) {
-            showMessage("The figures are counted. The map window is not part of this program yet.",
-                        PromptStyle::Information);
+        } else if (const long boundary = boundaryOf(index); count(boundary)) {
+            showMap(boundary);
+            shown = true;
         }
     } catch (...) {
         logCurrentError();
         showMessage(currentError().description, PromptStyle::Information);
     }
+    if (!shown)
+        mapClosed();
 }

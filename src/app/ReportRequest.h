@@ -1,7 +1,36 @@
 #pragma once
 
-class FrmMain;
+#include <memory>
 
-/// What a report button of the main window does: counts what its parameters select for its boundary and says how that
-/// went. The figures are ready then; a window to show them on a map has not been built into the program.
-void runRequestedReport(FrmMain& window, int index);
+class FrmMain;
+class FrmMap;
+class WindowProgress;
+
+/// What the report buttons of the main window do: count what its parameters select for their boundary, and show the
+/// map. While a map is shown the main window takes no input. References outlive it. Main thread.
+class ReportRequest {
+public:
+    ReportRequest(FrmMain& window, WindowProgress& progress);
+    ~ReportRequest();
+
+    /// A button cmdReport_INDEX. Tells the user what is wrong; never throws.
+    void run(int index);
+    /// The report of gsBoundaryType, or of TV regions where none is set.
+    void runPresentBoundary();
+
+    /// The map window; made at the first use.
+    FrmMap& map();
+
+private:
+    class Fence;
+
+    bool count(long boundary);
+    bool checkSeveralMaps();
+    void showMap(long boundary);
+    void mapClosed();
+
+    FrmMain& window_;
+    WindowProgress& progress_;
+    std::unique_ptr<FrmMap> map_;
+    std::unique_ptr<Fence> fence_; ///< as long as a report runs or a map is shown
+};

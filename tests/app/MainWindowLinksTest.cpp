@@ -3,6 +3,7 @@
 #include "app/ModUtilities_Main.h"
 #include "core/ModDeclarations.h"
 #include "data/engine/Database.h"
+#include "map/windows/FrmMap.h"
 #include "report/FrmMain.h"
 #include "sample/installation/SampleInstallation.h"
 #include "tests/support/ScriptedPrompts.h"
@@ -50,6 +51,12 @@ protected:
         QTest::mouseClick(window_->findChild<QAbstractButton*>(QString::fromLatin1(name)), Qt::LeftButton);
         QApplication::processEvents();
     }
+    static FrmMap* mapWindow() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* map = qobject_cast<FrmMap*>(window))
+                return map;
+        return nullptr;
+    }
     std::string label3() const { return window_->findChild<QLabel*>("Label3")->text().toStdString(); }
     Messages takeMessages() { return std::exchange(prompts_.texts, {}); }
 
@@ -76,7 +83,14 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
 
     press("OptInbound_1");
     press("cmdReport_104");
-    EXPECT_EQ(takeMessages(), Messages{"The figures are counted. The map window is not part of this program yet."});
+    EXPECT_EQ(takeMessages(), Messages{});
+    FrmMap* map = mapWindow();
+    ASSERT_TRUE(map && map->isVisible());
+    EXPECT_FALSE(window_->LstHistory()->isEnabled()) << "the parameters wait for the map";
+    press("cmdReport_104");
+    EXPECT_EQ(takeMessages(), Messages{});
+    map->close();
+    QApplication::processEvents();
     const auto counted = gdbSystem->openRecordset("SELECT Sum(TotalCalls1) FROM TblSelectedDataForTV");
     EXPECT_GT(counted->value(0).asDouble(), 0);
     EXPECT_TRUE(window_->LstHistory()->isEnabled() && window_->CmdClose()->isEnabled());
@@ -89,6 +103,19 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
     press("cmdReport_103");
     EXPECT_EQ(takeMessages(), Messages{"Invalid date selection, report abandoned"});
     EXPECT_TRUE(window_->LstHistory()->isEnabled() && last->isEnabled()) << "the way to other dates is open";
+}
+
+TEST_F(MainWindowLinks, ACapturedProjectStartsWithItsMap) {
+    ASSERT_TRUE(window_);
+    choose(2);
+    start_.ModUtilities_OpenMap();
+    QApplication::processEvents();
+    FrmMap* map = mapWindow();
+    ASSERT_TRUE(map && map->isVisible());
+    EXPECT_EQ(gsBoundaryType, "TVRegion");
+    map->close();
+    QApplication::processEvents();
+    EXPECT_TRUE(window_->LstHistory()->isEnabled());
 }
 
 } // namespace

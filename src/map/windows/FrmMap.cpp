@@ -325,7 +325,7 @@ void FrmMap::showPanels() {
 void FrmMap::placePanels() {
     const QRect room = mapSurface1_->canvas().rect().adjusted(2 * gap, 2 * gap, -2 * gap, -2 * gap);
     fraPie->resize(fraPie->sizeHint());
-    fraPie->move(room.right() - fraPie->width(), room.bottom() - fraPie->height());
+    fraPie->move(room.right() - fraPie->width(), room.top()); // over the North Sea
     fraOtherCallAreas->adjustSize();
     fraOtherCallAreas->move(room.left(), room.bottom() - fraOtherCallAreas->height());
 }
