@@ -16,25 +16,26 @@ struct ByName {
     }
 };
 
-/// A number is not found by a text, as which codes and areas are asked for.
-void expectText(Database& project, const std::string& column) {
-    const TableDef* table = project.tableDefs().find("TblMappingGIS");
-    const Field* field = table ? table->findField(column) : nullptr;
-    if (field && !isText(field->type))
-        throw DatabaseError(3421, "The column '" + column + "' of 'TblMappingGIS' is of another type than expected");
-}
-
 AreaName nameOf(const Value& value) {
     return value.isNull() ? AreaName() : AreaName(value.asText());
 }
 
 } // namespace
 
+void expectText(Database& project, const std::string& table, const std::vector<std::string>& columns) {
+    const TableDef* definition = project.tableDefs().find(table);
+    for (const std::string& column : columns) {
+        const Field* field = definition ? definition->findField(column) : nullptr;
+        if (field && !isText(field->type))
+            throw DatabaseError(3421,
+                                "The column '" + column + "' of '" + table + "' is of another type than expected");
+    }
+}
+
 AreasOfCodes::AreasOfCodes(Database& project, const std::string& areaColumn, const CallColumns& columns) {
     std::unordered_map<std::string, std::vector<std::uint32_t>> placesByCode;
     std::map<AreaName, std::uint32_t, ByName> areas;
-    expectText(project, "1141");
-    expectText(project, areaColumn);
+    expectText(project, "TblMappingGIS", {"1141", areaColumn});
     const auto rows = project.openRecordset("SELECT [1141], [" + areaColumn + "] FROM TblMappingGIS");
     for (; !rows->EOF_(); rows->MoveNext()) {
         if (!rows->value(0).isNull())

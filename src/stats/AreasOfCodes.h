@@ -8,6 +8,10 @@
 
 class Database;
 
+/// Throws DatabaseError 3421 where one of the columns is there and no text: statements cannot compare it with texts, so
+/// nor may a scan.
+void expectText(Database& project, const std::string& table, const std::vector<std::string>& columns);
+
 /// TblMappingGIS as a scan of calls needs it: the places of each code of the columns, and the areas of one boundary,
 /// which are the same where their names compare equal. Areas are in the order of their names, null first.
 struct AreasOfCodes {

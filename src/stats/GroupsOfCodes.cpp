@@ -1,6 +1,7 @@
 #include "stats/GroupsOfCodes.h"
 
 #include "data/engine/Database.h"
+#include "stats/AreasOfCodes.h"
 #include "stats/GroupQueries.h"
 
 #include <algorithm>
@@ -36,6 +37,8 @@ std::unordered_map<std::string, std::vector<Membership>> readMembers(Database& p
 } // namespace
 
 GroupsOfCodes::GroupsOfCodes(Database& project, GroupAreas areas, const CallColumns& columns) {
+    expectText(project, "TblGroups", {"Reference", "GroupName"});
+    expectText(project, "TblTempGIS", {"1141", groupAreaColumn(areas), columnOfAreasWithoutCalls(areas)});
     const auto members = readMembers(project);
     std::map<std::string, std::uint32_t, ByName> groups;
     for (const auto& [reference, memberships] : members) {
