@@ -17,10 +17,10 @@ StatisticsDisplay::~StatisticsDisplay() {
 }
 
 void StatisticsDisplay::task(std::string_view text) const {
-    if (!showsTexts_ || text.empty())
-        return;
-    progress().setTask(std::string(text));
-    progress().setMessageBar(1, 0);
+    if (showsTexts_ && !text.empty()) {
+        progress().setTask(std::string(text));
+        progress().setMessageBar(1, 0);
+    }
     progress().yield();
 }
 

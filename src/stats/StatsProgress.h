@@ -18,7 +18,7 @@ public:
     StatisticsDisplay(const StatisticsDisplay&) = delete;
     StatisticsDisplay& operator=(const StatisticsDisplay&) = delete;
 
-    /// The message bar's text; the bar starts anew. An empty text leaves both.
+    /// The message bar's text; the bar starts anew. An empty text leaves both. Yields in any case.
     void task(std::string_view text) const;
     /// Position (from 0) in the list that is being walked.
     void position(std::size_t count, std::size_t at) const;

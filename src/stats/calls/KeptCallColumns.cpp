@@ -223,12 +223,19 @@ std::optional<std::vector<Piece>> readPieces(Database& project, CallColumns& col
     return pieces;
 }
 
-bool idsFit(const CallColumns& columns) {
-    bool fit = allBelow(columns.answerInd, columns.answerKinds.size()) &&
-               allBelow(columns.callerFlags, CallColumns::flagCount);
+/// Whether every id is one of a value. False where `progress` stopped, too.
+bool idsFit(const CallColumns& columns, const CallProgress& progress) {
+    std::atomic<bool> fit =
+        columns.callerFlags.empty() || (columns.callerFlags.front() & CallColumns::firstOfCaller) != 0;
+    const auto check = [&fit](const auto& ids, std::size_t end) {
+        if (!allBelow(ids, end))
+            fit = false;
+    };
+    std::vector<std::function<void()>> tasks{[&] { check(columns.answerInd, columns.answerKinds.size()); },
+                                             [&] { check(columns.callerFlags, CallColumns::flagCount); }};
     for (std::size_t i = 0; i < callFieldCount; ++i)
-        fit = fit && allBelow(columns.ids[i], columns.values[i].size());
-    return fit && (columns.callerFlags.empty() || (columns.callerFlags.front() & CallColumns::firstOfCaller) != 0);
+        tasks.push_back([&, i] { check(columns.ids[i], columns.values[i].size()); });
+    return runYielding(tasks, progress) && fit;
 }
 
 std::optional<CallColumns> load(Database& project, const CallProgress& progress) {
@@ -253,9 +260,12 @@ std::optional<CallColumns> load(Database& project, const CallProgress& progress)
     std::vector<std::function<void()>> tasks;
     for (const Piece& piece : *pieces) {
         if (piece.target)
-            tasks.push_back([&] { damaged = !unpack(piece) || damaged; });
+            tasks.push_back([&] {
+                if (!unpack(piece))
+                    damaged = true;
+            });
     }
-    if (!runYielding(tasks, progress) || damaged || !idsFit(columns))
+    if (!runYielding(tasks, progress) || damaged || !idsFit(columns, progress))
         return {};
     return columns;
 }
@@ -265,6 +275,7 @@ std::optional<CallColumns> load(Database& project, const CallProgress& progress)
 void saveCallColumns(Database& project, const CallColumns& columns, const CallProgress& progress) {
     if (project.isReadOnly())
         return;
+    const SmallPageCache writtenAtOnce(project);
     sqlite::Savepoint whole(project.connection());
     makeCallMark(project);
     ByteWriter header;
