@@ -204,7 +204,9 @@ std::optional<std::vector<Piece>> readPieces(Database& project, CallColumns& col
             return {};
         pieces.push_back(pieceOf(stored));
     }
+    bool goesOn = true;
     forEachPart(columns, [&](std::int64_t part, auto& column) {
+        goesOn = goesOn && progress(); // setting memory aside takes its time
         const std::size_t size = rowsOfPart(part, rows) * sizeof(column[0]);
         std::size_t found = 0;
         for (const Piece& piece : pieces)
@@ -220,6 +222,8 @@ std::optional<std::vector<Piece>> readPieces(Database& project, CallColumns& col
             }
         }
     });
+    if (!goesOn)
+        return {};
     return pieces;
 }
 
