@@ -74,7 +74,7 @@ TEST_F(ReportCommand, FillsTheTableThatAPlainGroupedQueryGives) {
 
 TEST_F(ReportCommand, WritesAPictureOfTheSizeAskedForAndAWorkbook) {
     const ToolRun run =
-        report({"--png", folder->file("map.png"), "--size", "900x700", "--xlsx", folder->file("map.xlsx")});
+        report({"--png", folder->file("map.png"), "--with-panels", "--size", "900x700", "--xlsx", folder->file("map.xlsx")});
     ASSERT_EQ(run.status, 0) << run.errors;
     for (const char* word : {"maximum", "minimum", "total", "ms"})
         EXPECT_NE(run.output.find(word), std::string::npos) << word << " in\n" << run.output;

@@ -5,10 +5,12 @@
 #include "data/project/FirstValue.h"
 #include "groups/ChangedGroups.h"
 #include "groups/UpdateCustomerGroups.h"
+#include "map/ClassBreaks.h"
 #include "map/MapFormState.h"
 #include "map/MapMeasures.h"
 #include "map/ReportPicture.h"
 #include "map/ThematicMap.h"
+#include "map/calltypes/CallTypePicture.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
 #include "map/workbook/DataStatement.h"
@@ -24,11 +26,13 @@
 #include "tools/callscope-tool/Commands.h"
 #include "tools/callscope-tool/ReportOptions.h"
 #include "tools/callscope-tool/TextOutput.h"
+#include "ui/cColours_CS.h"
 
 #include <CLI/CLI.hpp>
 
 #include <QBuffer>
 #include <QGuiApplication>
+#include <QPainter>
 
 #include <chrono>
 #include <filesystem>
@@ -90,6 +94,28 @@ QImage drawPicture(DrawnMap& map, const ReportOptions& options) {
     caption.parameters = SelectionDescription;
     caption.showsMinimum = boundary.showsMinimum;
     return drawReportPicture(map.surface, map.key, map.form, caption, QSize(options.width(), options.height()));
+}
+
+/// The calls without a place on the map, over its sea.
+void addPanels(QImage& picture, DrawnMap& map, const ReportOptions& options, const ReportFigures& figures,
+               long mapType) {
+    CallTypePicture panels;
+    const MapMeasure& measure = *findMapMeasure(mapType);
+    const auto breaks = splitBandList(bandList(measure.maximum(mapMaxima)));
+    const std::string column = statisticsColumn(mapType, 1);
+    panels.withGroups = options.boundaryCode() == customerGroupsCode;
+    panels.bars =
+        panels.withGroups ? callTypeBarsOfGroups(column, breaks) : callTypeBars(figures.table, column, breaks);
+    panels.split = callTypeSplit(gsBoundaryType, mapType);
+    panels.fontFamily = QString::fromStdString(gsFontName);
+    for (int band = 0; band <= static_cast<int>(breaks.size()); ++band)
+        panels.bandColours.push_back(QColor::fromRgb(cColours_CS().MapColour(band)));
+    const double ratio = map.surface.style.devicePixelRatio;
+    const int mapWidth = reportMapSize(picture.size()).width();
+    QPainter painter(&picture);
+    painter.scale(ratio, ratio);
+    paintCallTypes(painter, QRectF((picture.width() - mapWidth) / ratio, 0, mapWidth / ratio, picture.height() / ratio),
+                   panels);
 }
 
 QByteArray pngOf(const QImage& picture) {
@@ -256,7 +282,12 @@ int runReportCommand(const ReportOptions& options) {
     QByteArray png;
     times.measure("map", [&] { describeMap(map, options, parameters, mapType); });
     if (!options.png.empty() || !options.xlsx.empty())
-        times.measure("picture", [&] { png = pngOf(drawPicture(map, options)); });
+        times.measure("picture", [&] {
+            QImage picture = drawPicture(map, options);
+            if (options.withPanels)
+                addPanels(picture, map, options, figures, mapType);
+            png = pngOf(picture);
+        });
     if (!options.png.empty())
         writePng(options.png, png);
     if (!options.csv.empty())

@@ -89,6 +89,7 @@ void addFilters(CLI::App& command, ReportOptions& options) {
 
 void addOutputs(CLI::App& command, ReportOptions& options) {
     command.add_option("--png", options.png, "Write the map as a picture");
+    command.add_flag("--with-panels", options.withPanels, "Show calls without a place on the map in the picture");
     command.add_option("--size", options.size, "Its size in pixels")
         ->check(validator("a size as WIDTHxHEIGHT, each from 200 to 10000",
                           [](const std::string& text) {

@@ -16,6 +16,7 @@ struct ReportOptions {
     bool overnight = false;
     std::string inbound, communityGroup, answerPoint, answerGroup, destination;
     std::string png, size = "1400x1000", xlsx, csv, engine;
+    bool withPanels = false; ///< the picture shows the calls without a place on the map
 
     long boundaryCode() const; ///< 0 exchange, 1 csg, 2 tv, 3 postcode, 5 groups
     int width() const;         ///< of the picture, in pixels
