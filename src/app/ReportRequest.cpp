@@ -25,12 +25,12 @@
 namespace {
 
 constexpr long steps = 5;
-constexpr long tvRegions = 2, customerGroups = 5;
+constexpr long tvRegions = 2, postCodeDistricts = 3, customerGroups = 5;
 
 /// The boundaries that the buttons of a single map stand for.
 constexpr std::array boundaryButtons{std::pair{ReportButtons::exchanges, 0L}, std::pair{ReportButtons::csgs, 1L},
                                      std::pair{ReportButtons::tvRegions, tvRegions},
-                                     std::pair{ReportButtons::postCodeDistricts, 3L},
+                                     std::pair{ReportButtons::postCodeDistricts, postCodeDistricts},
                                      std::pair{ReportButtons::customerGroups, customerGroups}};
 
 long boundaryOf(int index) {
@@ -124,9 +124,15 @@ bool ReportRequest::count(long boundary) {
     return true;
 }
 
-bool ReportRequest::checkSeveralMaps() {
+bool ReportRequest::countSeveralMaps() {
+    bringGeographyUpToDate();
     const ReportParameters parameters = window_.parameters();
-    return checkChoices(parameters) && checkRanges(parameters, window_.multiMapParameters());
+    const MultiMapParameters ranges = window_.multiMapParameters();
+    if (!checkDates(parameters) || !checkChoices(parameters) || !checkRanges(parameters, ranges))
+        return false;
+    const Hourglass hourglass;
+    runMultiMapReport(window_.multiMapPostCodeDistricts() ? postCodeDistricts : tvRegions, parameters, ranges);
+    return true;
 }
 
 void ReportRequest::showMap(long boundary) {
@@ -152,8 +158,8 @@ void ReportRequest::run(int index) {
     bool shown = false;
     try {
         if (index == ReportButtons::multipleMaps) {
-            if (checkSeveralMaps())
-                showMessage("The settings are in order. The window of several maps is not part of this program yet.",
+            if (countSeveralMaps())
+                showMessage("The figures of the maps are counted. Their window is not part of this program yet.",
                             PromptStyle::Information);
         } else if (const long boundary = boundaryOf(index); count(boundary)) {
             showMap(boundary);

@@ -7,7 +7,8 @@ class FrmMap;
 class WindowProgress;
 
 /// What the report buttons of the main window do: count what its parameters select for their boundary, and show the
-/// map. While a map is shown the main window takes no input. References outlive it. Main thread.
+/// map. While a map is shown the main window takes no input. The ranges of several maps are counted and remembered.
+/// References outlive it. Main thread.
 class ReportRequest {
 public:
     ReportRequest(FrmMain& window, WindowProgress& progress);
@@ -25,7 +26,7 @@ private:
     class Fence;
 
     bool count(long boundary);
-    bool checkSeveralMaps();
+    bool countSeveralMaps();
     void showMap(long boundary);
     void mapClosed();
 

@@ -129,3 +129,19 @@ ReportFigures runReport(long boundary, const ReportParameters& parameters) {
     ModData_MaxValues(figures.table, 1);
     return figures;
 }
+
+void runMultiMapReport(long boundary, const ReportParameters& parameters, const MultiMapParameters& ranges) {
+    const BoundaryReport& report = reportOf(boundary);
+    if (!report.derivesMeasures)
+        throw RuntimeError(5, "Several maps are of TV regions or postcode districts");
+    const ReportParameters whole = wholeProject();
+    currentTables.clear();
+    FilterActive = workOutFilterActive(parameters, whole.DTStart, whole.DTEnd);
+    buildSelection(parameters);
+    gsBoundaryType = report.boundaryType;
+    RecomputeSelection = figureEngine() != FigureEngine::Automatic;
+    CheckMultiData(parameters, ranges);
+    *currentTables.of(boundary) = report.selectedTable;
+    ModData_GetMultiMapData(parameters, ranges, RecomputeSelection);
+    SaveMultiData(parameters, ranges);
+}

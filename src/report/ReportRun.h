@@ -1,5 +1,6 @@
 #pragma once
 
+#include "stats/ModData_GetMultiMapData.h"
 #include "stats/ReportParameters.h"
 
 #include <string>
@@ -15,6 +16,10 @@ struct ReportFigures {
 /// was asked for the same; without a filter the main table is taken as it stands. Throws RuntimeError 5 where there is
 /// no such boundary, the project has no customer groups, or the selection holds a community group that is too large.
 ReportFigures runReport(long boundary, const ReportParameters& parameters);
+
+/// Counts each range of several maps into a period of its own, for TV regions (2) or postcode districts (3), unless the
+/// last such run was asked for the same, and remembers what it was asked for. Throws RuntimeError 5 as runReport does.
+void runMultiMapReport(long boundary, const ReportParameters& parameters, const MultiMapParameters& ranges);
 
 /// Counts the whole project into the main table of a boundary, with the measures that are derived from it. Throws
 /// RuntimeError 5 as runReport does, and where those measures failed.

@@ -97,6 +97,15 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
     EXPECT_TRUE(window_->findChild<QWidget*>("CmbInbound")->isEnabled()) << "the form is given back";
     EXPECT_FALSE(window_->Label8()->isVisible());
 
+    press("cmdReport_8");
+    EXPECT_EQ(takeMessages(),
+              Messages{"The figures of the maps are counted. Their window is not part of this program yet."});
+    const auto remembered = gdbSystem->openRecordset("SELECT MultiMaps, BoundaryType2 FROM TblDataCapture");
+    EXPECT_EQ(remembered->value(0).asText() + " " + remembered->value(1).asText(), "2 TVRegion");
+    const auto maps = gdbSystem->openRecordset("SELECT Sum(TotalCalls2), Sum(TotalCalls3) FROM TblSelectedDataForTV");
+    EXPECT_GT(maps->value(0).asDouble(), 0);
+    EXPECT_EQ(maps->value(0).asDouble(), maps->value(1).asDouble()) << "both maps stand on the whole period";
+
     auto* last = window_->findChild<QDateTimeEdit*>("DTEnd");
     last->setCurrentSection(QDateTimeEdit::YearSection);
     QTest::keyClick(last, Qt::Key_Down);

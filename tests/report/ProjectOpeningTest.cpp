@@ -3,9 +3,12 @@
 
 #include "core/CallHistory.h"
 #include "core/ModDeclarations.h"
+#include "core/RuntimeError.h"
 #include "core/cPathControl.h"
 #include "data/project/Databases.h"
+#include "report/OpenInstallation.h"
 #include "report/ProjectWindow.h"
+#include "report/ReportRun.h"
 #include "report/SelectedData.h"
 #include "sample/installation/SampleInstallation.h"
 #include "tests/support/ScriptedPrompts.h"
@@ -161,6 +164,39 @@ TEST_F(ProjectOpening, StartsWithTheMapOfTheProject) {
     start();
     EXPECT_EQ(window_.takeSteps(), "dates locations inbound choices dates maps:4 report ");
     EXPECT_EQ(gsBoundaryType, "PostcodeDistrict");
+}
+
+TEST_F(ProjectOpening, TheSameReportAgainTouchesNeitherItsTableNorTheRow) {
+    choose(project());
+    ReportParameters filter = wholeProject();
+    filter.DTStart.days += 5;
+    const auto row = [] { return rowsOf(*gdbSystem, "SELECT * FROM TblDataCapture"); };
+    EXPECT_TRUE(runReport(2, filter).filtered);
+    const auto remembered = row();
+    gdbSystem->execute("UPDATE TblSelectedDataForTV SET TotalCalls1 = 777 WHERE TVRegion = 'London'");
+    const auto mark = [] {
+        return valueOf(*gdbSystem, "SELECT TotalCalls1 FROM TblSelectedDataForTV WHERE TVRegion = 'London'");
+    };
+    runReport(2, filter);
+    EXPECT_EQ(mark(), "777");
+    EXPECT_EQ(row(), remembered);
+    EXPECT_FALSE(runReport(2, wholeProject()).filtered);
+    EXPECT_EQ(row(), remembered) << "the whole project is not compared";
+    filter.DTStart.days += 1;
+    runReport(2, filter);
+    EXPECT_NE(mark(), "777");
+
+    MultiMapParameters ranges;
+    for (std::size_t map = 0; map < 6; ++map) {
+        ranges.DTPicker1[map * 4] = filter.DTStart;
+        ranges.DTPicker1[map * 4 + 2] = filter.DTEnd;
+        ranges.DTPicker1[map * 4 + 3] = Date{86399.0 / 86400};
+    }
+    runMultiMapReport(2, filter, ranges);
+    gdbSystem->execute("UPDATE TblSelectedDataForTV SET TotalCalls2 = 777 WHERE TVRegion = 'London'");
+    runMultiMapReport(2, filter, ranges);
+    EXPECT_EQ(valueOf(*gdbSystem, "SELECT TotalCalls2 FROM TblSelectedDataForTV WHERE TVRegion = 'London'"), "777");
+    EXPECT_THROW(runMultiMapReport(1, filter, ranges), RuntimeError);
 }
 
 TEST_F(ProjectOpening, AProjectWithoutCallsIsLeft) {

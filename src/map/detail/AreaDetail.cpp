@@ -9,6 +9,8 @@
 
 #include <string_view>
 
+CampaignCosts campaignCosts;
+
 namespace {
 
 /// How an area of a boundary is found and called.

@@ -10,6 +10,9 @@ struct CampaignCosts {
     double perAnsweredCaller = 0; ///< -1 where there are no callers
 };
 
+/// Those of gcCampaignSpend; set by whoever sets that.
+extern CampaignCosts campaignCosts;
+
 /// Which figures of which map are asked for.
 struct AreaQuestion {
     std::string boundaryType;    ///< gsBoundaryType

@@ -75,6 +75,8 @@ void MapSession::loadEmptyMap() {
 
 void MapSession::build() {
     map_.CreateMap(boundary_, mapType_, dataSet);
+    if (mapType_ == averageCalls)
+        form.chkDensitiesEnabled = false; // a boundary with population figures enables it
 }
 
 void MapSession::fitMapTypes(long wanted) {
@@ -233,6 +235,8 @@ AreaQuestion MapSession::question() const {
     question.dataSet = dataSet;
     question.densities = densities_;
     question.groupBaseGeography = form.groupBaseGeography;
+    if (gcCampaignSpend != 0)
+        question.campaign = campaignCosts;
     return question;
 }
 

@@ -139,14 +139,17 @@ TEST_F(AreaDetailTest, ALongExchangeIsFoundByItsFirstTwentyCharacters) {
 
 TEST_F(AreaDetailTest, RatesHaveThreeDecimalsAndCostsAreRoundedFirst) {
     addPolygon("PGN_TV", "Name", "Granada", 1);
-    gdbSystem->execute("INSERT INTO TblTV (TVRegion, Answered1, Cost1) VALUES ('Granada', 7, 2.345)");
+    createVocabularyTable(*gdbSystem, DatabaseKind::SystemMap, "tblTVByPopulation");
+    gdbSystem->execute("INSERT INTO tblTVByPopulation (TVRegion, Answered1, Ineffective1, Cost1) VALUES ('Granada', "
+                       "0.12345, 0.0005, 2.345)");
     gdbSystem->execute("INSERT INTO tblTVPopulationDensity (Reference, Population) VALUES ('Granada', 5000000)");
-    AreaQuestion question = about("TVRegion", "TblTV");
+    AreaQuestion question = about("TVRegion", "tblTVByPopulation");
     question.densities = true;
     gbTVPopulation = true;
     const AreaAnswer answer = detailOfPolygon(question, 1);
     ASSERT_TRUE(answer.detail.has_value());
-    EXPECT_EQ(answer.detail->answered, "Answered calls = 7 per head of population");
+    EXPECT_EQ(answer.detail->answered, "Answered calls = 0.123 per head of population");
+    EXPECT_EQ(answer.detail->ineffective, "Total Ineffective = 0 per head of population") << "halves go to the even";
     EXPECT_EQ(answer.detail->lostCallers, "Lost Callers = 0 per head of population");
     EXPECT_EQ(answer.detail->cost, "Cost\\(Revenue) = £2.340\\(£0.000) per head of population");
     EXPECT_EQ(answer.detail->population, "Population: 5000000");

@@ -11,6 +11,7 @@
 #include "report/OpenInstallation.h"
 #include "report/ReportRun.h"
 #include "sample/installation/SampleInstallation.h"
+#include "stats/CurrentTables.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -124,6 +125,22 @@ TEST_F(FrmMapTest, ChangingTheMeasureKeepsTheViewAndTheBoundaryDoesNot) {
     EXPECT_NEAR(surface().MapScale(), whole, whole / 100);
 }
 
+TEST_F(FrmMapTest, RatesComeFromTheirOwnTableAndAveragesHaveNone) {
+    show(2);
+    auto* rates = window_.findChild<QCheckBox*>("chkDensities");
+    ASSERT_TRUE(rates->isEnabled()) << "the sample has population figures";
+    const QString most = readOut(5);
+    QTest::mouseClick(rates, Qt::LeftButton, {}, QPoint(8, rates->height() / 2));
+    EXPECT_EQ(currentTables.TV, "tblTVByPopulation");
+    EXPECT_NE(readOut(5), most);
+    choose("cmbMapType", "Average Calls Per Caller");
+    EXPECT_EQ(currentTables.TV, "TblTV");
+    EXPECT_FALSE(rates->isEnabled() || rates->isChecked());
+    choose("cmbMapType", "Total Calls");
+    EXPECT_TRUE(rates->isEnabled());
+    EXPECT_EQ(readOut(5), most);
+}
+
 TEST_F(FrmMapTest, LabelsOfDistrictsAppearBelowTheirScaleAndGoAtFullExtent) {
     show(3);
     EXPECT_FALSE(labelsAreOn());
@@ -168,8 +185,11 @@ TEST_F(FrmMapTest, AClickOnAnAreaTellsWhatIsKnownOfIt) {
             dialog->reject();
         }
     });
-    const AreaAnswer mobile = window_.session().callType("Mobile");
-    ASSERT_TRUE(mobile.detail.has_value()) << mobile.message;
+    EXPECT_FALSE(window_.session().callType("Mobile").detail->campaign.has_value());
+    gcCampaignSpend = 100;
+    campaignCosts = {.perAnsweredCall = 0.5, .perAnsweredCaller = 2};
+    EXPECT_TRUE(window_.session().callType("Mobile").detail->campaign.has_value());
+    gcCampaignSpend = 0;
     emit window_.MapSurface1()->MapEntityInfo(0, 1);
     QTest::qWait(300);
     EXPECT_TRUE(title.startsWith("TV Region = ")) << title.toStdString();
