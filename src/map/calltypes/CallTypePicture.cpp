@@ -16,12 +16,6 @@ constexpr double pieWidth = 320, pieHeight = 176;
 constexpr int textPixels = 13;
 constexpr QColor line{0xD9, 0xD9, 0xD9}, barLine{0xAA, 0xAA, 0xAA}, ink{0x2A, 0x2A, 0x2A};
 
-void paintCard(QPainter& painter, const QRectF& card) {
-    painter.setPen(line);
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(card, radius, radius);
-}
-
 QString wordsOf(const CallTypeBar& bar, bool withGroups) {
     const QString name = QString::fromUtf8(bar.name.data(), static_cast<qsizetype>(bar.name.size()));
     return withGroups ? name + QStringLiteral(" · ") + QString::fromStdString(bar.groupLabel) : name;
@@ -38,7 +32,7 @@ void paintBars(QPainter& painter, const QRectF& map, const CallTypePicture& pict
     const QRectF card(QPointF(map.left() + edge, map.bottom() - edge - size.height()), size);
     if (!map.contains(card))
         return;
-    paintCard(painter, card);
+    paintCallTypeCard(painter, card);
     QRectF row(card.left() + padding, card.top() + padding, card.width() - 2 * padding, rowHeight);
     for (const CallTypeBar& bar : picture.bars) {
         painter.setPen(barLine);
@@ -56,11 +50,17 @@ void paintSplit(QPainter& painter, const QRectF& map, const CallTypePicture& pic
     const QRectF card(map.right() - edge - pieWidth, map.top() + edge, pieWidth, pieHeight);
     if (!picture.split || !map.contains(card))
         return;
-    paintCard(painter, card);
+    paintCallTypeCard(painter, card);
     PiePicture(*picture.split, card, picture.fontFamily).paint(painter);
 }
 
 } // namespace
+
+void paintCallTypeCard(QPainter& painter, const QRectF& card) {
+    painter.setPen(line);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(card, radius, radius);
+}
 
 void paintCallTypes(QPainter& painter, const QRectF& map, const CallTypePicture& picture) {
     painter.save();

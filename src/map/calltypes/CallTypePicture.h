@@ -21,6 +21,9 @@ struct CallTypePicture {
     QString fontFamily;
 };
 
+/// The ground on which bars and pie stand.
+void paintCallTypeCard(QPainter& painter, const QRectF& card);
+
 /// Paints it over the sea of a map that is shown whole: the pie at the top right, the bars at the bottom left. `map` is
 /// the map's room, in logical pixels of the painter. What has no room is left out. Main thread.
 void paintCallTypes(QPainter& painter, const QRectF& map, const CallTypePicture& picture);

@@ -1,5 +1,6 @@
 #include "map/windows/CallTypePanel.h"
 
+#include "map/calltypes/CallTypePicture.h"
 #include "ui/Skin.h"
 #include "ui/ucWebbyLink.h"
 
@@ -67,9 +68,7 @@ void CallTypePanel::paintEvent(QPaintEvent*) {
     const cColours_CS colours = skinColours();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(toColor(colours.Grey(3)));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    paintCallTypeCard(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     for (const Row& row : rows_) {
         painter.setBrush(Qt::NoBrush);
         painter.setPen(toColor(colours.Grey(4)));

@@ -1,7 +1,7 @@
 #include "map/windows/CallTypePie.h"
 
+#include "map/calltypes/CallTypePicture.h"
 #include "map/calltypes/PiePicture.h"
-#include "ui/Skin.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -26,12 +26,9 @@ void CallTypePie::setSplit(std::optional<CallTypeSplit> split) {
 }
 
 void CallTypePie::paintEvent(QPaintEvent*) {
-    const cColours_CS colours = skinColours();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(toColor(colours.Grey(3)));
-    painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    paintCallTypeCard(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     if (split_)
         picture().paint(painter);
 }
