@@ -1,5 +1,6 @@
 #include "groups/ModData_SaveCustomerGroups.h"
 
+#include "groups/DeleteAllGroups.h"
 #include "groups/GroupCopies.h"
 #include "groups/ModData_CopyGroupsFromProject.h"
 #include "tests/groups/StoreInstallation.h"
@@ -145,6 +146,20 @@ TEST_F(Save, WithoutMembersEverythingOfTheAccountGoesAndItsKindIsAskedFor) {
     EXPECT_EQ(StoreInstallation::setup(), Rows{"0|False"});
     long dataType = 0;
     EXPECT_EQ(ModData_CopyGroupsFromProject(dataType), UserStopped) << "asked, and cancelled";
+}
+
+TEST_F(Save, DeletingAllGroupsActsAtOnceOnEveryCopyButTheProjects) {
+    setUpTwoGroups();
+    enterTools();
+    EXPECT_EQ(DeleteAllGroups(2), 0);
+    for (const char* table : {"tblTempGroups", "TblTempName", "PGN_GROUPS", "PNT_GROUPS", "TblCustomerGroups"})
+        EXPECT_EQ(valueOf(*gdbSystem, "SELECT Count(*) FROM " + std::string(table)), "0") << table;
+    EXPECT_EQ(StoreInstallation::masterMembers(), Rows{});
+    EXPECT_EQ(valueOf(customerGroupsDatabase(), "SELECT Count(*) FROM TblName"), "0");
+    EXPECT_EQ(StoreInstallation::shapesIn(customerGroupsDatabase()), Rows{});
+    EXPECT_EQ(StoreInstallation::setup(), Rows{"2|False"});
+    EXPECT_EQ(StoreInstallation::projectMembers(), twoGroupsMembers);
+    EXPECT_EQ(installation_.logLines(), Rows{});
 }
 
 TEST_F(Save, AnApostropheBreaksItsStatementAndEndsTheSave) {
