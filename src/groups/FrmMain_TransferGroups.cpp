@@ -10,14 +10,9 @@
 
 namespace {
 
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 void readAccount() {
     if (const auto account = firstValue(projectDatabase(), "SELECT * FROM Tbl50"))
-        gsAccount = trimmed(account->asText());
+        gsAccount = trimmedText(account->asText());
 }
 
 void copyToProject() {

@@ -16,24 +16,6 @@ namespace {
 
 constexpr std::string_view everything = "SELECT * FROM TblDataCapture";
 
-/// Position of the last `count` characters of a UTF-8 text.
-std::size_t startOfLast(std::string_view text, std::size_t count) {
-    std::size_t at = text.size();
-    while (at > 0 && count > 0) {
-        --at;
-        if ((static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U)
-            --count;
-    }
-    return at;
-}
-
-std::string withoutOuterBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
-
 bool has(Database& database) {
     database.tableDefs().refresh();
     return database.tableDefs().find("TblDataCapture") != nullptr;
@@ -73,7 +55,7 @@ bool isSet(const Value& captured) {
 
 std::string capturedProjectName() {
     constexpr std::size_t width = 250; // of the column
-    return withoutOuterBlanks(std::string_view(gsProjectPath).substr(startOfLast(gsProjectPath, width)));
+    return trimmedText(lastCharacters(gsProjectPath, width));
 }
 
 void onCaptureRow(const std::function<void(Recordset& row)>& use) {

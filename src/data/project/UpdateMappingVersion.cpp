@@ -21,18 +21,13 @@ Money versionFrom(const std::optional<Value>& value) {
     return value && !value->isNull() ? value->asMoney() : Money{};
 }
 
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// Leaves `names` empty where the project has no account or the account no special group.
 SpecialGroups readSpecialGroups() {
     SpecialGroups groups;
     const auto account = firstValue(projectDatabase(), "SELECT TallyAccount FROM Tbl50");
     if (!account)
         return groups;
-    gsAccount = trimmed(account->asText());
+    gsAccount = trimmedText(account->asText());
     openCustomerGroups();
     const auto rows = gdbCustomerGroups->openRecordset(
         "SELECT DISTINCT GroupName from TblGroups WHERE TallyAccount = " + quoted(gsAccount) +

@@ -173,3 +173,37 @@ std::string lowerText(std::string_view text) {
 std::string foldText(std::string_view text) {
     return upperText(withoutTrailingBlanks(text));
 }
+
+std::string trimmedText(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos)
+        return {};
+    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+namespace {
+
+bool startsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+} // namespace
+
+std::string firstCharacters(std::string_view text, std::size_t count) {
+    std::size_t at = 0;
+    for (; at < text.size(); ++at) {
+        if (startsCharacter(text[at]) && count-- == 0)
+            break;
+    }
+    return std::string(text.substr(0, at));
+}
+
+std::string lastCharacters(std::string_view text, std::size_t count) {
+    std::size_t at = text.size();
+    while (at > 0 && count > 0) {
+        --at;
+        if (startsCharacter(text[at]))
+            --count;
+    }
+    return std::string(text.substr(at));
+}

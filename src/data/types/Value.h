@@ -90,3 +90,8 @@ std::string foldText(std::string_view text);
 /// Upper case and lower case of UTF-8 (Latin, Greek and Cyrillic letters).
 std::string upperText(std::string_view text);
 std::string lowerText(std::string_view text);
+/// Without blanks at its ends.
+std::string trimmedText(std::string_view text);
+/// At most the first or last `count` characters of UTF-8.
+std::string firstCharacters(std::string_view text, std::size_t count);
+std::string lastCharacters(std::string_view text, std::size_t count);

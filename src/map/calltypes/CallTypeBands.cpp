@@ -37,14 +37,9 @@ std::optional<std::size_t> bandOfFigure(const Value& value, const std::vector<st
 
 /// Of at most twenty characters; a longer one ends in "...".
 std::string shortened(const std::string& groupName) {
-    constexpr int width = 20;
-    int characters = 0;
-    for (std::size_t at = 0; at < groupName.size(); ++at) {
-        const bool startsCharacter = (static_cast<unsigned char>(groupName[at]) & 0xC0U) != 0x80U;
-        if (startsCharacter && ++characters > width)
-            return groupName.substr(0, at) + "...";
-    }
-    return groupName;
+    constexpr std::size_t width = 20;
+    const std::string start = firstCharacters(groupName, width);
+    return start == groupName ? groupName : start + "...";
 }
 
 void describeGroup(CallTypeBar& bar, const std::string& column, const std::vector<std::string>& breaks) {

@@ -54,27 +54,12 @@ bool isExchange(const AreaKind& kind) {
 constexpr const char* inNoGroup = "This area is not included in a Group";
 constexpr std::size_t exchangeWidth = 20; ///< characters by which an exchange is found
 
-std::string leftCharacters(const std::string& text, std::size_t count) {
-    std::size_t at = 0;
-    for (; at < text.size(); ++at) {
-        const bool startsCharacter = (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U;
-        if (startsCharacter && count-- == 0)
-            break;
-    }
-    return text.substr(0, at);
-}
-
-std::string trimmed(const std::string& text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 /// Of the polygon; nothing where there is none.
 std::optional<std::string> nameOf(const AreaKind& kind, long entity) {
     const auto rows = systemDatabase().openRecordset(std::string(kind.nameQuery) + std::to_string(entity));
     if (rows->EOF_())
         return std::nullopt;
-    return trimmed(rows->value(kind.nameField).asText());
+    return trimmedText(rows->value(kind.nameField).asText());
 }
 
 /// Television regions are told apart by one spelling alone.
@@ -83,7 +68,7 @@ bool isIreland(const AreaKind& kind, const std::string& name) {
 }
 
 std::shared_ptr<Recordset> statisticsRow(const AreaKind& kind, const AreaQuestion& question, const std::string& name) {
-    const std::string key = isExchange(kind) ? leftCharacters(name, exchangeWidth) : name;
+    const std::string key = isExchange(kind) ? firstCharacters(name, exchangeWidth) : name;
     return systemDatabase().openRecordset("SELECT * FROM " + question.table + " WHERE " + std::string(kind.rowTest) +
                                           " = " + quoted(key));
 }
@@ -150,7 +135,7 @@ AreaAnswer detailOfCallType(const AreaQuestion& question, const std::string& cal
             " AND TallyAccount = " + quoted(gsAccount) + " AND (GroupName <> '' AND GroupName IS NOT NULL)");
         if (groups->EOF_())
             return {.detail = {}, .message = inNoGroup};
-        name = trimmed(groups->value("GroupName").asText());
+        name = trimmedText(groups->value("GroupName").asText());
         listExchangesOfGroup(name, question.groupBaseGeography, GroupMembersListed::AreasAndCallTypes, detail);
     }
     detail.title = std::string(kind->callTypeTitle) + name;

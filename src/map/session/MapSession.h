@@ -65,7 +65,7 @@ public:
     std::optional<CallTypeSplit> split(bool& failed) const;
     AreaAnswer areaAt(int layer, long entity);
     AreaAnswer callType(const std::string& name) const;
-    /// What lies under a table's name on the window: its areas have no place for the pie at close range.
+    /// Whether the view is wide enough for the pie to stand over the sea.
     bool pieHasRoom() const;
 
 private:
