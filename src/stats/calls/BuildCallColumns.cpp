@@ -13,6 +13,10 @@
 #include <future>
 #include <mutex>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace {
 
 /// The fields of a chunk's texts in their order; the last text is the caller.
@@ -39,6 +43,13 @@ std::string timeOf(std::string_view callTime) {
             time += ':';
     }
     return time;
+}
+
+/// The C library of Linux keeps freed blocks of a thread for that thread.
+void returnFreedMemory() {
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
 }
 
 class DateIds {
@@ -129,13 +140,18 @@ private:
     }
 
     void placeCalls();
+    /// The memory of the column becomes `spare`, for the next column of its type. False where `progress` stopped.
     template<typename T>
-    void sortColumn(std::vector<T>& column) const {
-        std::vector<T> sorted(column.size());
-        for (std::size_t row = 0; row < column.size(); ++row)
-            sorted[callerOf_[row]] = column[row];
-        column.swap(sorted);
+    bool sortColumn(std::vector<T>& column, std::vector<T>& spare, const CallProgress& progress) const {
+        const auto sort = [&] {
+            spare.resize(column.size());
+            for (std::size_t row = 0; row < column.size(); ++row)
+                spare[callerOf_[row]] = column[row];
+            column.swap(spare);
+        };
+        return runYielding({sort}, progress);
     }
+    bool sortColumns(const CallProgress& progress);
 
     CallColumns columns_;
     DateIds dates_;
@@ -149,6 +165,7 @@ private:
 void Encoder::placeCalls() {
     const std::uint32_t count = callers_.size();
     const std::uint32_t nullCaller = callers_.nullIndex();
+    callers_ = {}; // their numbers are no longer needed, and are the largest thing beside the columns
     std::vector<std::uint32_t> next(count + 1, 0);
     std::vector<bool> answered(count, false);
     for (std::size_t row = 0; row < callerOf_.size(); ++row) {
@@ -174,7 +191,26 @@ void Encoder::placeCalls() {
     }
     payphones_ = {};
     columns_.callers = count;
-    callers_ = {};
+}
+
+/// One column after the other, so that only one is there twice.
+bool Encoder::sortColumns(const CallProgress& progress) {
+    {
+        std::vector<std::int32_t> spare;
+        if (!sortColumn(columns_.money, spare, progress))
+            return false;
+    }
+    {
+        std::vector<std::uint8_t> spare;
+        if (!sortColumn(columns_.answerInd, spare, progress))
+            return false;
+    }
+    std::vector<std::uint16_t> spare;
+    for (auto& column : columns_.ids) {
+        if (!column.empty() && !sortColumn(column, spare, progress))
+            return false;
+    }
+    return true;
 }
 
 std::optional<CallColumns> Encoder::finish(const CallProgress& progress) {
@@ -182,16 +218,13 @@ std::optional<CallColumns> Encoder::finish(const CallProgress& progress) {
     for (std::size_t i = 0; i < callerText; ++i)
         columns_.values[indexOf(textFields[i])] = texts_[i].values();
     columns_.answerKinds = answerKindsOf(columns_.valuesOf(CallField::AnswerInd));
-    if (!runYielding({[this] { placeCalls(); }}, progress))
+    const auto place = [this] {
+        placeCalls();
+        returnFreedMemory(); // what the numbers of the callers took is room for the sorting
+    };
+    if (!runYielding({place}, progress))
         return {};
-    std::vector<std::function<void()>> tasks;
-    for (auto& column : columns_.ids) {
-        if (!column.empty())
-            tasks.push_back([this, &column] { sortColumn(column); });
-    }
-    tasks.push_back([this] { sortColumn(columns_.money); });
-    tasks.push_back([this] { sortColumn(columns_.answerInd); });
-    if (!runYielding(tasks, progress))
+    if (!sortColumns(progress))
         return {};
     return std::move(columns_);
 }
