@@ -320,6 +320,8 @@ void FrmMap::showPanels() {
     if (failed)
         showMessage("Could not produce pie chart for Line / Mobile / International / Other splits");
     fraOtherCallAreas->showBars(session_.bars(), session_.form.groupLabelsVisible);
+    if (!groupsExist())
+        removeCustomerGroups();
 }
 
 void FrmMap::placePanels() {

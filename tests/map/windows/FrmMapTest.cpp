@@ -26,6 +26,8 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 /// The map of a captured sample project, shown at a size that a small screen has.
@@ -196,6 +198,52 @@ TEST_F(FrmMapTest, AClickOnAnAreaTellsWhatIsKnownOfIt) {
     emit window_.MapSurface1()->MapEntityInfo(-1, -1);
     QTest::qWait(20);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(FrmMapTest, EveryBoundaryTellsOfItsAreasInItsOwnWords) {
+    struct Words {
+        long boundary;
+        const char* shapes;
+        const char* title;
+        const char* mobileTitle;
+        std::optional<std::string> heading;
+    };
+    const Words cases[] = {
+        {0, "PGN_EXCHANGEAREA", "Exchange = ", "Exchange = Mobile", std::nullopt},
+        {1, "PGN_CSG", "CSG = ", "CSG = Mobile", "Exchanges included in this CSG"},
+        {2, "PGN_TV", "TV Region = ", "TV Region = Mobile", "Exchanges included in this TV Area"},
+        {3, "PGN_POSTCODEDISTRICT", "Post Code = ", "Postcode District = Mobile",
+         "Exchanges included in this Post Code"},
+    };
+    for (const Words& words : cases) {
+        show(words.boundary);
+        const auto area = gdbSystem->openRecordset("SELECT TOP 1 POLYGONID, NAME FROM " + std::string(words.shapes) +
+                                                   " WHERE NAME <> 'Republic Of Ireland' ORDER BY NAME");
+        const AreaAnswer answer = window_.session().areaAt(0, area->value(0).asLong());
+        ASSERT_TRUE(answer.detail.has_value()) << words.shapes << answer.message;
+        EXPECT_EQ(answer.detail->title, words.title + area->value(1).asText());
+        EXPECT_EQ(answer.detail->listHeading, words.heading);
+        if (words.heading) {
+            ASSERT_FALSE(answer.detail->exchanges.empty());
+            EXPECT_TRUE(std::ranges::is_sorted(answer.detail->exchanges)) << words.shapes;
+            EXPECT_FALSE(answer.detail->exchanges[0].starts_with("No Exchanges")) << words.shapes;
+        }
+        const AreaAnswer mobile = window_.session().callType("Mobile");
+        ASSERT_TRUE(mobile.detail.has_value()) << words.shapes << mobile.message;
+        EXPECT_EQ(mobile.detail->title, words.mobileTitle);
+        EXPECT_EQ(mobile.detail->population.has_value(), false);
+        window_.close();
+    }
+}
+
+TEST_F(FrmMapTest, WithoutGroupsTheirBoundaryLeavesTheList) {
+    show(2);
+    auto* boundaries = window_.findChild<QComboBox*>("CmbBoundary");
+    EXPECT_GE(boundaries->findText("Customer Groups"), 0);
+    const std::string account = std::exchange(gsAccount, "NOBODY");
+    choose("cmbMapType", "Cost");
+    EXPECT_LT(boundaries->findText("Customer Groups"), 0);
+    gsAccount = account;
 }
 
 TEST_F(FrmMapTest, TheExitClosesItAndASecondReportOpensItAgain) {
