@@ -149,7 +149,7 @@ private:
                 spare[callerOf_[row]] = column[row];
             column.swap(spare);
         };
-        return runYielding({sort}, progress);
+        return runYielding({sort}, progress) && progress(); // a column alone may be done before the first yield
     }
     bool sortColumns(const CallProgress& progress);
 
