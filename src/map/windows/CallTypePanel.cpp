@@ -51,14 +51,17 @@ ucWebbyLink* CallTypePanel::makeLink(const QString& name, const QString& caption
     return link;
 }
 
-void CallTypePanel::showBars(const CallTypeBars& bars, bool withGroups) {
+void CallTypePanel::showBars(const CallTypeBars& bars, bool withGroups, bool averages) {
     const cColours_CS colours = skinColours();
     for (std::size_t at = 0; at < bars.size(); ++at) {
         const auto& bar = bars[at];
         rows_[at].bar->setBackColour(bar.band ? toColor(colours.MapColour(static_cast<int>(*bar.band)))
                                               : QColor(Qt::white));
         rows_[at].group->setText(QString::fromStdString(bar.groupLabel));
-        rows_[at].group->setVisible(withGroups);
+        const bool shown = !averages || (bar.name != "International" && bar.name != "Other");
+        rows_[at].bar->setVisible(shown);
+        rows_[at].text->setVisible(shown);
+        rows_[at].group->setVisible(shown && withGroups);
     }
     lblGroup->setVisible(withGroups);
     adjustSize();
@@ -70,6 +73,8 @@ void CallTypePanel::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     paintCallTypeCard(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     for (const Row& row : rows_) {
+        if (row.bar->isHidden())
+            continue;
         painter.setBrush(Qt::NoBrush);
         painter.setPen(toColor(colours.Grey(4)));
         painter.drawRect(QRectF(row.bar->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5));

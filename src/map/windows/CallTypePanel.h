@@ -17,7 +17,8 @@ class CallTypePanel : public QWidget {
 public:
     explicit CallTypePanel(QWidget* parent = nullptr);
 
-    void showBars(const CallTypeBars& bars, bool withGroups);
+    /// Averages are not known of calls from abroad and of others: these two rows can be left out.
+    void showBars(const CallTypeBars& bars, bool withGroups, bool averages);
 
 signals:
     /// "Mobile", "International", "VOIP" or "Other".

@@ -33,6 +33,7 @@ namespace {
 
 constexpr int gap = 8, sideWidth = 296;
 constexpr long customerGroups = 5;
+constexpr long averageCalls = 8; ///< map type
 constexpr const char* toolBar =
     ":BUTTON_VISIBLE:1,1,1,1,0,1,0,0,0,0,0,0,0,0,:TOOLTIPS:Zoom Extent,Pan,Zoom In,Zoom "
     "Out,Measure,Information,Information,Circle Query,Draw Point,Draw Polyline,Draw Polygon,Draw Circle,Hide "
@@ -319,7 +320,7 @@ void FrmMap::showPanels() {
     fraPie->setVisible(fraPie->hasSplit() && session_.pieHasRoom());
     if (failed)
         showMessage("Could not produce pie chart for Line / Mobile / International / Other splits");
-    fraOtherCallAreas->showBars(session_.bars(), session_.form.groupLabelsVisible);
+    fraOtherCallAreas->showBars(session_.bars(), session_.form.groupLabelsVisible, session_.mapType() == averageCalls);
     if (!groupsExist())
         removeCustomerGroups();
 }

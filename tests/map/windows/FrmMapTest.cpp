@@ -138,8 +138,12 @@ TEST_F(FrmMapTest, RatesComeFromTheirOwnTableAndAveragesHaveNone) {
     choose("cmbMapType", "Average Calls Per Caller");
     EXPECT_EQ(currentTables.TV, "TblTV");
     EXPECT_FALSE(rates->isEnabled() || rates->isChecked());
+    const auto row = [&](const char* name) { return window_.findChild<QWidget*>(name); };
+    EXPECT_TRUE(row("ucwlOtherText")->isHidden() && row("ucwlInternationalBar")->isHidden());
+    EXPECT_FALSE(row("ucwlMobileText")->isHidden() || row("ucwlVOIPBar")->isHidden());
     choose("cmbMapType", "Total Calls");
     EXPECT_TRUE(rates->isEnabled());
+    EXPECT_FALSE(row("ucwlOtherText")->isHidden());
     EXPECT_EQ(readOut(5), most);
 }
 
