@@ -191,10 +191,7 @@ void MapSession::drawFinished() {
     build();
 }
 
-bool MapSession::end() {
-    form.closeRequested = true;
-    if (!form.mapReady)
-        return false;
+void MapSession::end() {
     form.CurrentFrame = 0;
     while (surface_.NumberOfLayers() >= 2) {
         surface_.setLayerIndex(surface_.NumberOfLayers() - 1);
@@ -203,7 +200,6 @@ bool MapSession::end() {
     }
     surface_.CloseLayerSource(0);
     form.closeRequested = false;
-    return true;
 }
 
 CallTypeBars MapSession::bars() const {

@@ -51,8 +51,8 @@ public:
     void mouseDown(int button);
     /// A draw has ended.
     void drawFinished();
-    /// Lets go of the map. False while one is being built: it then stops at its next check.
-    bool end();
+    /// Lets go of the map; not while one is being built: closeRequested stops that at its next check.
+    void end();
 
     long boundary() const { return boundary_; }
     long mapType() const { return mapType_; }

@@ -347,11 +347,12 @@ void FrmMap::keyPressEvent(QKeyEvent* event) {
 }
 
 void FrmMap::closeEvent(QCloseEvent* event) {
-    if (working_ || !session_.end()) {
+    if (working_) {
         session_.form.closeRequested = true;
         event->ignore();
         return;
     }
+    session_.end();
     event->accept();
     emit closed();
 }

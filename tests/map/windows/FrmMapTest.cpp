@@ -1,6 +1,7 @@
 #include "map/windows/FrmMap.h"
 
 #include "core/ModDeclarations.h"
+#include "core/Progress.h"
 #include "core/cPathControl.h"
 #include "data/project/Databases.h"
 #include "map/surface/windows/MapSurfaceWidget.h"
@@ -248,6 +249,34 @@ TEST_F(FrmMapTest, WithoutGroupsTheirBoundaryLeavesTheList) {
     choose("cmbMapType", "Cost");
     EXPECT_LT(boundaries->findText("Customer Groups"), 0);
     gsAccount = account;
+}
+
+TEST_F(FrmMapTest, ACloseDuringABuildStopsItAndTheNextOneCloses) {
+    /// Closes the window at the first yield of the work.
+    struct ClosingProgress : Progress {
+        explicit ClosingProgress(QWidget& closed) : window(closed) { setProgress(this); }
+        ~ClosingProgress() override { setProgress(nullptr); }
+        void yield() override {
+            if (!std::exchange(asked, true))
+                refused = !window.close();
+        }
+        QWidget& window;
+        bool asked = false, refused = false;
+    };
+    show(2);
+    ReportParameters filter = wholeProject();
+    filter.DTStart.days += 3;
+    runReport(2, filter);
+    window_.showReport(2, filter);
+    {
+        const ClosingProgress closing(window_);
+        choose("CmbBoundary", "CSG's");
+        EXPECT_TRUE(closing.refused);
+    }
+    EXPECT_TRUE(window_.isVisible());
+    EXPECT_FALSE(window_.session().form.mapReady) << "the build has stopped";
+    EXPECT_TRUE(window_.close());
+    EXPECT_FALSE(window_.isVisible());
 }
 
 TEST_F(FrmMapTest, TheExitClosesItAndASecondReportOpensItAgain) {
