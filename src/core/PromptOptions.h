@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,3 +21,15 @@ struct PromptOptions {
 
 /// Never fails: the modes are those above.
 const PromptOptions& promptOptions(OptionsMode mode);
+
+/// What keys a text prompt takes (frmGetText); Any takes all of them.
+enum class TextFormat { LettersAndDigits = 0, Letters = 1, Digits = 2, Currency = 3, Any = -1 };
+
+/// A question for one text.
+struct TextQuestion {
+    std::string caption;
+    std::string instructions;
+    std::string text; ///< what stands in the box at first
+    TextFormat format = TextFormat::Any;
+    int limit = 0; ///< longest text, characters; 0: none
+};

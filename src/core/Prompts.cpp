@@ -23,6 +23,10 @@ public:
         std::cerr << promptOptions(mode).text << '\n';
         return Prompts::getOption(mode);
     }
+    std::optional<std::string> getText(const TextQuestion& question) override {
+        std::cerr << question.instructions << '\n';
+        return std::nullopt;
+    }
 };
 
 StandardErrorPrompts standardErrorPrompts;
@@ -32,6 +36,10 @@ Prompts* currentPrompts = &standardErrorPrompts;
 
 int Prompts::getOption(OptionsMode mode) {
     return std::max(promptOptions(mode).cancel, 0);
+}
+
+std::optional<std::string> Prompts::getText(const TextQuestion& /*question*/) {
+    return std::nullopt;
 }
 
 Prompts& prompts() {

@@ -2,6 +2,7 @@
 
 #include "core/PromptOptions.h"
 
+#include <optional>
 #include <string>
 
 /// Styles of a message box, by the numbers under which the messages are told.
@@ -17,6 +18,8 @@ public:
     virtual PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) = 0;
     /// The index of the button pressed (frmOptions). Where nobody can be asked: the button that cancels, or the first.
     virtual int getOption(OptionsMode mode);
+    /// The text entered (frmGetText); nothing where the user cancels or nobody can be asked.
+    virtual std::optional<std::string> getText(const TextQuestion& question);
 };
 
 /// The program's prompts. Never null: until one is set, messages go to standard error and questions are answered with

@@ -3,9 +3,12 @@
 #include "core/Version.h"
 #include "ui/AppIcon.h"
 #include "ui/WindowProgress.h"
+#include "ui/frmGetText.h"
 #include "ui/frmOptions.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 
 namespace {
@@ -75,4 +78,20 @@ int MessageBoxPrompts::getOption(OptionsMode mode) {
     window.setMode(mode);
     const PlainPointer pointer;
     return window.GetOption();
+}
+
+std::optional<std::string> MessageBoxPrompts::getText(const TextQuestion& question) {
+    frmGetText window(QApplication::activeWindow());
+    window.setWindowTitle(QString::fromStdString(question.caption));
+    window.lblInstructions()->setText(QString::fromStdString(question.instructions));
+    window.setFormat(static_cast<int>(question.format));
+    if (question.limit > 0)
+        window.txtText()->setMaxLength(question.limit);
+    QString text = QString::fromStdString(question.text);
+    bool cancelled = false;
+    const PlainPointer pointer;
+    window.GetText(text, cancelled);
+    if (cancelled)
+        return std::nullopt;
+    return text.toStdString();
 }

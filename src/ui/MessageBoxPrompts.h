@@ -2,7 +2,8 @@
 
 #include "core/Prompts.h"
 
-/// Prompts as message boxes over the active window, with the program's title, and as frmOptions. In force as long as it
+/// Prompts as message boxes over the active window, with the program's title, as frmOptions and as
+/// frmGetText. In force as long as it
 /// lives.
 class MessageBoxPrompts : public Prompts {
 public:
@@ -13,4 +14,5 @@ public:
 
     PromptAnswer messageBox(const std::string& text, PromptStyle style, PromptButtons buttons) override;
     int getOption(OptionsMode mode) override;
+    std::optional<std::string> getText(const TextQuestion& question) override;
 };

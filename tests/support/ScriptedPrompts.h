@@ -37,9 +37,20 @@ public:
         return option;
     }
 
+    std::optional<std::string> getText(const TextQuestion& question) override {
+        questions.push_back(question);
+        if (entries.empty())
+            return std::nullopt;
+        const std::optional<std::string> entry = entries.front();
+        entries.pop_front();
+        return entry;
+    }
+
     std::vector<std::string> texts;
     std::vector<PromptStyle> styles;
     std::vector<OptionsMode> modes; ///< of the questions with several answers
     std::deque<PromptAnswer> answers;
     std::deque<int> options; ///< answers to those
+    std::vector<TextQuestion> questions;
+    std::deque<std::optional<std::string>> entries; ///< answers to them
 };
