@@ -109,3 +109,23 @@ std::optional<SpecialRowFigures> linkedPayphoneCalls(const std::string& where) {
         return figures;
     });
 }
+
+std::optional<AnsweredTotals> linkedAnsweredTotals() {
+    return byScan([] {
+        const auto columns = projectCalls();
+        if (!columns)
+            throw DatabaseError(5, whyNoProjectCalls());
+        AnsweredTotals totals;
+        bool callerCounted = true;
+        for (std::size_t call = 0; call < columns->size(); ++call) {
+            if (columns->callerFlags[call] & CallColumns::firstOfCaller)
+                callerCounted = false;
+            if (columns->answerKinds[columns->answerInd[call]] != AnswerKind::Answered)
+                continue;
+            ++totals.calls;
+            totals.callers += !callerCounted;
+            callerCounted = true;
+        }
+        return totals;
+    });
+}

@@ -22,3 +22,10 @@ std::optional<std::vector<std::vector<AreaCallers>>> linkedCallers(const std::ve
 
 /// Of the calls from payphones. totalCalls leaves out those without an AnswerInd.
 std::optional<SpecialRowFigures> linkedPayphoneCalls(const std::string& where);
+
+struct AnsweredTotals {
+    std::int64_t calls = 0;
+    std::int64_t callers = 0; ///< distinct ones; those unknown are one
+};
+/// Of all calls.
+std::optional<AnsweredTotals> linkedAnsweredTotals();
