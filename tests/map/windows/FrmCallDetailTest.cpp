@@ -2,9 +2,9 @@
 
 #include "core/ModDeclarations.h"
 #include "map/windows/ExchangeList.h"
-#include "map/windows/OpenDocument.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/TemporaryFolder.h"
+#include "ui/OpenDocument.h"
 
 #include <gtest/gtest.h>
 

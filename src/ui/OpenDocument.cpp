@@ -1,4 +1,4 @@
-#include "map/windows/OpenDocument.h"
+#include "ui/OpenDocument.h"
 
 #include "core/LogAndGoOn.h"
 #include "core/Prompts.h"
