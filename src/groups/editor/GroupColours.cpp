@@ -1,0 +1,20 @@
+#include "groups/editor/GroupColours.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array<std::uint32_t, 32> colours{
+    0xFF0000, 0xFFFF00, 0x00FF00, 0x00FFFF, 0x0000FF, 0xFF00FF, 0x800000, 0xC0C000, 0x00C000, 0x00C0C0, 0x0000C0,
+    0xC000C0, 0xFF4040, 0xFFFF40, 0x40FF40, 0x4040FF, 0xFF8080, 0xFFFF80, 0x80FF80, 0x8080FF, 0xFF80FF, 0xFFC0C0,
+    0xFFFFC0, 0xC0FFC0, 0xC0FFFF, 0xC0C0FF, 0xFFC0FF, 0xFF0131, 0x404040, 0x808080, 0xC0C0C0, 0xFF7F01};
+
+} // namespace
+
+std::span<const std::uint32_t> groupColours() {
+    return colours;
+}
+
+std::uint32_t groupColour(std::size_t place) {
+    return colours[place % colours.size()];
+}
