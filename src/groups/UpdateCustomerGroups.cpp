@@ -4,49 +4,14 @@
 #include "core/LogAndGoOn.h"
 #include "core/Progress.h"
 #include "core/Prompts.h"
-#include "core/cPathControl.h"
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "groups/ChangedGroups.h"
+#include "groups/GroupSetup.h"
 #include "groups/ModData_CopyGroupsFromProject.h"
-#include "groups/ModData_SaveCustomerGroups.h"
 #include "groups/ModUtilities_DetermineProbableGroupDefinition.h"
 
-#include <filesystem>
-#include <optional>
-
 namespace {
-
-struct Places {
-    const FrameVisibility& frame;
-    const Caption& saveStatus;
-    const Caption& groupStatus;
-};
-
-void setVisible(const FrameVisibility& frame, bool visible) {
-    if (frame)
-        frame(visible);
-}
-
-/// What is known of the account's groups.
-struct Setup {
-    bool changed = false; ///< by Callscope, and not yet applied
-    long DataType = 0;    ///< 0: not known
-};
-
-Setup readSetup() {
-    const auto row = systemDatabase().openRecordset(
-        "SELECT DataType, Status FROM tblMappingGroupSetup_Link WHERE TallyAccount = " + ::quoted(gsAccount));
-    Setup setup;
-    if (row->EOF_()) {
-        setup.changed = countOf(projectDatabase(), "SELECT COUNT(*) AS RowCount FROM tblGroups") != 0;
-        return setup;
-    }
-    setup.changed = !row->value("Status").isNull() && row->value("Status").asBoolean();
-    if (!row->value("DataType").isNull())
-        setup.DataType = static_cast<long>(row->value("DataType").asInteger());
-    return setup;
-}
 
 long namesOfAccount() {
     return customerGroupsDatabase()
@@ -66,16 +31,14 @@ std::string tooManyText() {
 
 /// The user agrees to what Callscope has changed; without names there is nothing to ask. Finds out the kind of areas
 /// where it is not known. False where the user stopped.
-bool agreeToChange(Setup& setup, const Places& places) {
+bool agreeToChange(GroupSetup& setup, const GroupStatus& status) {
     if (tooManyGroups())
         return false;
-    if (namesOfAccount() > 0 &&
-        !askYesNo("Changes have been made to Customer Groups in Callscope.  These changes must be applied to Callscope "
-                  "Mapping before you proceed.  Do you wish to continue?"))
+    if (namesOfAccount() > 0 && !agreeToChanges())
         return false;
-    setVisible(places.frame, true);
-    show(places.saveStatus, "");
-    show(places.groupStatus, "");
+    status.setVisible(true);
+    show(status.saveStatus, "");
+    show(status.groupStatus, "");
     if (setup.DataType != 0)
         return true;
     if (ModUtilities_DetermineProbableGroupDefinition() == GroupDefinition::Refused)
@@ -84,48 +47,26 @@ bool agreeToChange(Setup& setup, const Places& places) {
     return true;
 }
 
-/// Every group counts as changed.
-void markAllGroups() {
-    const auto rows = systemDatabase().openRecordset(
-        "SELECT DISTINCT GroupName FROM tblTempGroups WHERE GroupName <> '' ORDER BY GroupName");
-    for (; !rows->EOF_(); rows->MoveNext())
-        AddChangedGroup(rows->value(0).asText());
-}
-
-long applyChange(Setup& setup, const Places& places) {
-    markAllGroups();
-    progress().setHourglass(false);
-    const bool agreed =
-        askYesNo("Saving group changes can take a considerable amount of time, depending on the number, size and "
-                 "complexity of groups.  Do you wish to continue?");
-    progress().setHourglass(true);
-    if (!agreed)
+long update(const GroupStatus& status) {
+    if (!customerGroupsExist())
         return UserStopped;
-    bool unsaved = true;
-    return ModData_SaveCustomerGroups(setup.DataType, places.saveStatus, places.groupStatus, &unsaved);
-}
-
-long update(const Places& places) {
-    std::error_code fault;
-    if (!std::filesystem::exists(toPath(customerGroupsPath()), fault)) {
-        showMessage("No Customer Groups have been set up.  Please do this in Callscope before attempting to update "
-                    "Groups with Callscope Mapping");
-        return UserStopped;
-    }
-    Setup setup = readSetup();
-    if (setup.changed && !agreeToChange(setup, places))
+    GroupSetup setup = readGroupSetup();
+    if (setup.changed && !agreeToChange(setup, status))
         return UserStopped;
     ResetChangedGroups();
     if (ModData_CopyGroupsFromProject(setup.DataType) == UserStopped)
         return UserStopped;
-    return setup.changed ? applyChange(setup, places) : 0;
+    if (!setup.changed)
+        return 0;
+    return saveChangedGroups("SELECT DISTINCT GroupName FROM tblTempGroups WHERE GroupName <> '' ORDER BY GroupName",
+                             setup.DataType, status);
 }
 
-long UpdateCustomerGroups(const Places& places) {
+long UpdateCustomerGroups(const GroupStatus& status) {
     long result = -1;
     const Hourglass hourglass;
-    logAndGoOn([&] { result = update(places); });
-    setVisible(places.frame, false);
+    logAndGoOn([&] { result = update(status); });
+    status.setVisible(false);
     return result;
 }
 

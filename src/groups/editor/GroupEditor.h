@@ -47,8 +47,8 @@ struct SaveDisplay {
 /// every call. Main thread.
 class GroupEditor {
 public:
-    /// Begins on tables just made, with nothing to save: reads the list.
-    explicit GroupEditor(long DataType);
+    /// Begins on tables just made, with nothing to save: reads the list. `type` becomes DataType.
+    explicit GroupEditor(long type);
 
     long DataType;        ///< what groups are made of: 3 postcode districts, 1 CSGs, 2 TV regions; 0 not known
     bool Unsaved = false; ///< there is something to lose
@@ -58,8 +58,8 @@ public:
     void select(int place);                    ///< a place that the list has not got selects none
     std::string selectedName() const;          ///< empty: none
 
-    bool canSave() const { return changed_; } ///< cmdSave, cmdCancel and their captions
-    bool canDelete() const;                   ///< cmdDeleteGroup, cmdDeleteAll
+    bool canSave() const { return changed_; }           ///< cmdSave, cmdCancel and their captions
+    bool canDelete() const { return !groups_.empty(); } ///< cmdDeleteGroup, cmdDeleteAll
 
     /// frmGroups_PopulateGroupList: reads the list anew; none is selected then.
     void populate();

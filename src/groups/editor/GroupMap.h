@@ -1,9 +1,6 @@
 #pragma once
 
-#include "map/MapFormState.h"
-
 #include <string>
-#include <string_view>
 
 class GroupEditor;
 class MapSurface;
@@ -44,15 +41,16 @@ public:
 
 private:
     const Boundary& boundary() const;
+    Layer& describeLayer(const std::string& name);
     Layer& addLayer(const std::string& name);
     void fillBaseLayer();
-    void deleteUpperLayers();
+    void deleteLayers();
     void enableLabels();
 
     MapSurface& surface_;
     GroupEditor& editor_;
-    SavedView view_;
+    double wholeScale_ = 0.0; ///< width of the view of the whole map, map units
     int groupLayerCount_ = 0;
-    bool built_ = false;
+    bool whole_ = false; ///< the whole map has been shown once
     bool building_ = false;
 };
