@@ -11,9 +11,9 @@
 #include "map/ReportPicture.h"
 #include "map/ThematicMap.h"
 #include "map/calltypes/CallTypePicture.h"
+#include "map/data/MapData.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
-#include "map/workbook/DataStatement.h"
 #include "map/workbook/Workbook.h"
 #include "report/CaptureProject.h"
 #include "report/CaptureRow.h"
@@ -153,21 +153,13 @@ void writeCsv(const std::string& path, const std::string& table) {
     finish(stream, path);
 }
 
-void writeXlsx(const ReportOptions& options, const ReportParameters& parameters, const ReportFigures& figures,
-               const QByteArray& png) {
-    DataView view;
-    view.boundary = static_cast<int>(options.boundaryCode());
-    view.table = figures.table;
-    view.hasCostColumns =
-        systemDatabase().tableDefs().find(figures.table)->findField("AreaCostPerAnsweredCall") != nullptr;
-    view.hasPopulation = view.boundary == 2 ? gbTVPopulation : gbPostCodePopulation;
-    const auto rows = systemDatabase().openRecordset(dataStatement(view));
+void writeXlsx(const ReportOptions& options, const ReportParameters& parameters, const QImage& picture) {
+    const DataView view = dataView(options.boundaryCode(), 1, false);
     const WorkbookParameters words{dateText(parameters.DTStart), timeText(parameters.DTStartTime[0]),
                                    dateText(parameters.DTEnd), timeText(parameters.DTStartTime[1]),
                                    SelectionDescription};
     outputFile(options.xlsx).close(); // says so where the place cannot be written
-    writeWorkbook(options.xlsx, words, *rows,
-                  {reinterpret_cast<const unsigned char*>(png.constData()), static_cast<std::size_t>(png.size())});
+    writeWorkbook(options.xlsx, words, readDataTable(view), picture);
 }
 
 void showFigures(const ReportOptions& options, const ReportFigures& figures, const DrawnMap& map, long mapType) {
@@ -279,21 +271,20 @@ int runReportCommand(const ReportOptions& options) {
 
     startPainting();
     DrawnMap map;
-    QByteArray png;
+    QImage picture;
     times.measure("map", [&] { describeMap(map, options, parameters, mapType); });
     if (!options.png.empty() || !options.xlsx.empty())
         times.measure("picture", [&] {
-            QImage picture = drawPicture(map, options);
+            picture = drawPicture(map, options);
             if (options.withPanels)
                 addPanels(picture, map, options, figures, mapType);
-            png = pngOf(picture);
         });
     if (!options.png.empty())
-        writePng(options.png, png);
+        writePng(options.png, pngOf(picture));
     if (!options.csv.empty())
         writeCsv(options.csv, figures.table);
     if (!options.xlsx.empty())
-        writeXlsx(options, parameters, figures, png);
+        writeXlsx(options, parameters, picture);
     showFigures(options, figures, map, mapType);
     std::cout << "engine      " << engineWord() << '\n' << times.lines();
     return Done;

@@ -1,22 +1,17 @@
 #include "map/workbook/Workbook.h"
 
 #include "core/RuntimeError.h"
-#include "data/engine/Recordset.h"
+#include "map/data/DataTable.h"
 #include "map/workbook/Book.h"
+#include "ui/cColours_CS.h"
+
+#include <QBuffer>
+#include <QImage>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
-
-constexpr lxw_color_t corporateColour = 0x5514B4;
-constexpr std::string_view overnight = "Overnight";
-
-std::string trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(" \r\n");
-    if (first == std::string_view::npos)
-        return "";
-    return std::string(text.substr(first, text.find_last_not_of(" \r\n") - first + 1));
-}
 
 void fillParameters(Book& book, const WorkbookParameters& parameters) {
     lxw_worksheet* sheet = book.sheet("Parameters");
@@ -46,66 +41,92 @@ void writeCell(lxw_worksheet* sheet, lxw_row_t row, lxw_col_t column, const Valu
         worksheet_write_string(sheet, row, column, value.asText().c_str(), format);
 }
 
-void fillData(Book& book, Recordset& rows) {
-    lxw_worksheet* sheet = book.sheet("Data");
-    lxw_format* header = book.format();
-    format_set_bold(header);
-    format_set_text_wrap(header);
-    format_set_pattern(header, LXW_PATTERN_SOLID);
-    format_set_bg_color(header, corporateColour);
-    format_set_font_color(header, LXW_COLOR_WHITE);
-    lxw_format* left = book.format();
-    format_set_align(left, LXW_ALIGN_LEFT);
-    lxw_format* right = book.format();
-    format_set_align(right, LXW_ALIGN_RIGHT);
+lxw_format* alignedFormat(Book& book, lxw_format_alignments alignment) {
+    lxw_format* format = book.format();
+    format_set_align(format, static_cast<std::uint8_t>(alignment));
+    return format;
+}
 
-    const auto columns = static_cast<lxw_col_t>(rows.fieldCount());
+lxw_format* headerFormat(Book& book, lxw_format_alignments alignment) {
+    lxw_format* format = alignedFormat(book, alignment);
+    format_set_bold(format);
+    format_set_text_wrap(format);
+    format_set_pattern(format, LXW_PATTERN_SOLID);
+    format_set_fg_color(format, cColours_CS().CoreColour_Indigo());
+    format_set_font_color(format, LXW_COLOR_WHITE);
+    return format;
+}
+
+lxw_worksheet* fillData(Book& book, const DataTable& data) {
+    lxw_worksheet* sheet = book.sheet("Data");
+    lxw_format* headers[] = {headerFormat(book, LXW_ALIGN_LEFT), headerFormat(book, LXW_ALIGN_RIGHT)};
+    lxw_format* cells[] = {alignedFormat(book, LXW_ALIGN_LEFT), alignedFormat(book, LXW_ALIGN_RIGHT)};
+    const auto columns = static_cast<lxw_col_t>(data.captions.size());
     double areaWidth = 12;
     for (lxw_col_t column = 0; column < columns; ++column)
-        worksheet_write_string(sheet, 0, column, rows.field(column).name.c_str(), header);
-    lxw_row_t row = 1;
-    for (; !rows.EOF_(); rows.MoveNext(), ++row) {
+        worksheet_write_string(sheet, 0, column, data.captions[column].c_str(), headers[column > 0]);
+    lxw_row_t line = 1;
+    for (const std::vector<Value>& row : data.rows) {
         for (lxw_col_t column = 0; column < columns; ++column)
-            writeCell(sheet, row, column, rows.value(column), column == 0 ? left : right);
-        areaWidth = std::max(areaWidth, widthOf(rows.value(0).asText()));
+            writeCell(sheet, line, column, row[column], cells[column > 0]);
+        areaWidth = std::max(areaWidth, widthOf(row[0].asText()));
+        ++line;
     }
-    worksheet_set_column(sheet, 0, 0, areaWidth + 2, left);
+    worksheet_set_column(sheet, 0, 0, areaWidth + 2, cells[0]);
     if (columns > 1)
-        worksheet_set_column(sheet, 1, static_cast<lxw_col_t>(columns - 1), 14, right);
+        worksheet_set_column(sheet, 1, static_cast<lxw_col_t>(columns - 1), 16, cells[1]);
     worksheet_freeze_panes(sheet, 1, 1);
+    return sheet;
+}
+
+/// A PNG that shows at the picture's logical size, however sharp the screen is.
+QByteArray pngOf(const QImage& picture) {
+    constexpr double dotsPerMetre = 96 / 0.0254;
+    QImage scaled = picture;
+    const int density = static_cast<int>(std::lround(dotsPerMetre * picture.devicePixelRatio()));
+    scaled.setDotsPerMeterX(density);
+    scaled.setDotsPerMeterY(density);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    scaled.save(&buffer, "PNG");
+    return bytes;
+}
+
+/// `png` must live until the book is closed.
+void fillMap(Book& book, const QByteArray& png) {
+    lxw_worksheet* sheet = book.sheet("Map");
+    const auto* bytes = reinterpret_cast<const unsigned char*>(png.constData());
+    if (worksheet_insert_image_buffer(sheet, 0, 0, bytes, static_cast<std::size_t>(png.size())) != LXW_NO_ERROR)
+        throw RuntimeError(5, "The picture of the map cannot be put into the workbook");
 }
 
 } // namespace
 
-std::vector<ParameterLine> parameterLines(const WorkbookParameters& parameters) {
-    std::vector<ParameterLine> lines{{"Start Date=", parameters.startDate},
-                                     {"Start Time=", parameters.startTime},
-                                     {"End Date=", parameters.endDate},
-                                     {"End Time=", parameters.endTime}};
-    std::string description = parameters.selectionDescription;
-    if (const auto at = description.find(overnight); at != std::string::npos)
-        description.erase(at, overnight.size());
-    std::string_view rest = description;
-    while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find("\r\n"), rest.size());
-        const std::string_view line = rest.substr(0, end);
-        rest.remove_prefix(std::min(end + 2, rest.size()));
-        const std::size_t equals = line.find('=');
-        if (equals != std::string_view::npos)
-            lines.push_back({std::string(line.substr(0, equals + 1)), trimmed(line.substr(equals + 1))});
-        else if (!trimmed(line).empty())
-            lines.push_back({trimmed(line), ""});
-    }
-    return lines;
-}
-
-void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, Recordset& rows,
-                   std::span<const unsigned char> picture) {
+void writeDataWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data) {
     Book book(path);
     fillParameters(book, parameters);
-    fillData(book, rows);
-    if (!picture.empty() &&
-        worksheet_insert_image_buffer(book.sheet("Map"), 0, 0, picture.data(), picture.size()) != LXW_NO_ERROR)
-        throw RuntimeError(75, "The picture of the map cannot be put into '" + path + "'");
+    worksheet_activate(fillData(book, data));
+    book.close();
+}
+
+void writeMapWorkbook(const std::string& path, const WorkbookParameters& parameters, const QImage& picture) {
+    if (picture.isNull())
+        throw RuntimeError(5, "There is no picture of the map for '" + path + "'");
+    const QByteArray png = pngOf(picture);
+    Book book(path);
+    fillParameters(book, parameters);
+    fillMap(book, png);
+    book.close();
+}
+
+void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data,
+                   const QImage& picture) {
+    const QByteArray png = pngOf(picture);
+    Book book(path);
+    fillParameters(book, parameters);
+    fillData(book, data);
+    if (!picture.isNull())
+        fillMap(book, png);
     book.close();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <span>
 #include <string>
 #include <vector>
 
-class Recordset;
+struct DataTable;
+class QImage;
 
 /// The parameters of a map as its workbook names them; all are texts as the map shows them.
 struct WorkbookParameters {
@@ -12,15 +12,23 @@ struct WorkbookParameters {
     std::string selectionDescription; ///< lines "name = value" joined by CR LF
 };
 
-/// Writes a workbook with the sheet "Parameters", a sheet "Data" with one line for each row of `rows` under the
-/// captions of its fields, and, where `picture` is not empty, a sheet "Map" with it. Texts of money columns stay texts,
-/// as the grid shows them. `picture` is the path of a PNG file. Leaves the cursor of `rows` behind the last row. Throws
-/// RuntimeError 75, naming the path, where the file cannot be written.
-void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, Recordset& rows,
-                   std::span<const unsigned char> picture = {});
-
 /// The lines of the sheet "Parameters": two cells each.
 struct ParameterLine {
     std::string name, value;
 };
 std::vector<ParameterLine> parameterLines(const WorkbookParameters& parameters);
+
+/// Workbooks of a map. Each begins with the sheet "Parameters". All throw RuntimeError 75, naming the path, where the
+/// file cannot be written.
+
+/// With the sheet "Data": one line for each row of `data` under its captions. Texts of money columns stay texts, as the
+/// grid shows them. "Data" is selected.
+void writeDataWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data);
+
+/// With the sheet "Map": the picture, at its size on the screen. "Parameters" is selected. A picture without pixels is
+/// error 5.
+void writeMapWorkbook(const std::string& path, const WorkbookParameters& parameters, const QImage& picture);
+
+/// With both. The picture may be null: then there is no sheet "Map".
+void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data,
+                   const QImage& picture);

@@ -1,4 +1,4 @@
-#include "map/workbook/DataStatement.h"
+#include "map/data/DataStatement.h"
 #include "data/engine/Database.h"
 #include "data/schema/Vocabulary.h"
 #include "tests/support/TemporaryFolder.h"

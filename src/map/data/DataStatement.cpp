@@ -1,8 +1,11 @@
-#include "map/workbook/DataStatement.h"
+#include "map/data/DataStatement.h"
+
 #include "data/types/Value.h"
 #include "map/Boundaries.h"
 
 namespace {
+
+constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 
 /// "TotalCalls1 AS TotalCalls", or the column alone.
 std::string counted(const std::string& name, const DataView& view, bool named) {
@@ -25,23 +28,26 @@ std::string measures(const DataView& view, Column column) {
            ", " + column("Other") + ", " + column("LostCallers") + ", " + column("AnsweredCallers");
 }
 
-bool isPopulationTable(const DataView& view) {
-    return equalText(view.table, "tblTVByPopulation") || equalText(view.table, "tblPostCodeByPopulation");
+bool hasRates(const DataView& view) {
+    return (view.boundary == tvRegions || view.boundary == postcodeDistricts) &&
+           (equalText(view.table, "tblTVByPopulation") || equalText(view.table, "tblPostCodeByPopulation"));
 }
 
-/// The shares of a campaign's spend. Animated tables and tables of rates keep none.
+/// The shares of a campaign's spend. Tables of the frames of an animation keep none.
 std::string costColumns(const DataView& view) {
     if (view.table.find("Animate") != std::string::npos || !view.hasCostColumns)
         return "";
-    return ", AreaCostPerAnsweredCall AS [Area Cost Per Answered Call], AreaCostPerAnsweredCaller AS [Area Cost Per "
-           "Answered "
-           "Caller]";
+    if (view.boundary == postcodeDistricts && hasRates(view))
+        return ", AreaCostPerAnsweredCall, AreaCostPerAnsweredCaller ";
+    return ", AreaCostPerAnsweredCall AS [Area Cost Per Answered Call], "
+           "AreaCostPerAnsweredCaller AS [Area Cost Per Answered Caller]";
 }
 
 std::string source(const DataView& view, const std::string& key) {
-    if (!view.hasPopulation || (view.boundary != 2 && view.boundary != 3))
+    if (!view.hasPopulation || (view.boundary != tvRegions && view.boundary != postcodeDistricts))
         return " FROM " + view.table;
-    const std::string population = view.boundary == 2 ? "tblTVPopulationDensity" : "tblPostCodePopulationDensity";
+    const std::string population =
+        view.boundary == tvRegions ? "tblTVPopulationDensity" : "tblPostCodePopulationDensity";
     return ", Population FROM " + view.table + " LEFT JOIN " + population + " ON " + view.table + "." + key + " = " +
            population + ".Reference";
 }
@@ -53,9 +59,9 @@ std::string dataStatement(const DataView& view) {
     if (!boundary)
         return "";
     const std::string key(boundary->keyColumn);
-    const bool rates = isPopulationTable(view);
+    const bool rates = hasRates(view);
     const auto column = [&](const std::string& name) {
-        return rates ? rate(name, view) : counted(name, view, view.boundary != 5);
+        return rates ? rate(name, view) : counted(name, view, view.boundary != customerGroups);
     };
     // CSGs are numbers: they are ordered as such.
     const std::string order = view.boundary == 1 ? "Format( CSG, '0000')" : key;
