@@ -8,6 +8,7 @@
 #include "map/Boundaries.h"
 #include "map/ClassBreaks.h"
 #include "map/MapMeasures.h"
+#include "map/WholeMap.h"
 #include "map/form/LabelRule.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
@@ -24,9 +25,7 @@ namespace {
 constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 constexpr long averageCalls = 8;
 constexpr int dataSet = 1;
-constexpr double wholeMapPassed = 15000; ///< width of the view, map units
-constexpr double pieScale = 80000;       ///< from which width on the pie stands over sea
-constexpr int rightButton = 2;
+constexpr double pieScale = 80000; ///< from which width on the pie stands over sea
 
 std::string emptyMapPath() {
     return joinPath(gPaths ? gPaths->ApplicationDataPath : std::string(), "EmptyMap.bin");
@@ -171,15 +170,8 @@ void MapSession::clicked() {
 }
 
 void MapSession::mouseDown(int button) {
-    if (button == rightButton || surface_.UIMode() != MapTool::ZoomOut || surface_.MapScale() <= wholeMapPassed)
-        return;
-    surface_.setUIMode(MapTool::ZoomToExtent);
-    surface_.setMapScale(form.savedView.scale);
-    surface_.setLayerIndex(0);
-    ignoreErrors([&] { surface_.ZoomToExtent(); });
-    logAndGoOn([&] { surface_.DrawMap(); });
-    surface_.setUIMode(MapTool::ZoomOut);
-    showLabels(true);
+    if (zoomOutPastWholeMap(surface_, button, form.savedView.scale))
+        showLabels(true);
 }
 
 void MapSession::drawFinished() {
@@ -193,11 +185,7 @@ void MapSession::drawFinished() {
 
 void MapSession::end() {
     form.CurrentFrame = 0;
-    while (surface_.NumberOfLayers() >= 2) {
-        surface_.setLayerIndex(surface_.NumberOfLayers() - 1);
-        surface_.CloseLayerSource(surface_.LayerIndex());
-        surface_.DeleteLayer();
-    }
+    deleteUpperLayers(surface_);
     surface_.CloseLayerSource(0);
     form.closeRequested = false;
 }
