@@ -149,7 +149,7 @@ void writePng(const std::string& path, const QByteArray& png) {
 void writeCsv(const std::string& path, const std::string& table) {
     const auto rows = systemDatabase().openRecordset("SELECT * FROM " + table);
     std::ofstream stream = outputFile(path);
-    writeRows(stream, *rows, TextFormat::Csv);
+    writeRows(stream, *rows, RowFormat::Csv);
     finish(stream, path);
 }
 

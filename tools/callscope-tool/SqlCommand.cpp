@@ -35,7 +35,7 @@ int runSql(const SqlOptions& options) {
     for (const std::string& statement : options.statements) {
         try {
             if (const auto rows = database->run(statement))
-                writeRows(std::cout, *rows, options.csv ? TextFormat::Csv : TextFormat::Tsv);
+                writeRows(std::cout, *rows, options.csv ? RowFormat::Csv : RowFormat::Tsv);
         } catch (const DatabaseError& error) {
             std::cout.flush();
             // Positions count from 1; 0 where the fault lies in no one place of the statement.

@@ -78,15 +78,15 @@ std::string escapedForTsv(const std::string& text) {
 
 } // namespace
 
-std::string cellText(const Value& value, TextFormat format) {
+std::string cellText(const Value& value, RowFormat format) {
     if (value.isNull())
-        return format == TextFormat::Csv ? "" : "\\N";
+        return format == RowFormat::Csv ? "" : "\\N";
     const std::string text = plainText(value);
-    return format == TextFormat::Csv ? quotedForCsv(text, true) : escapedForTsv(text);
+    return format == RowFormat::Csv ? quotedForCsv(text, true) : escapedForTsv(text);
 }
 
-void writeRows(std::ostream& out, Recordset& rows, TextFormat format) {
-    const char* separator = format == TextFormat::Csv ? "," : "\t";
+void writeRows(std::ostream& out, Recordset& rows, RowFormat format) {
+    const char* separator = format == RowFormat::Csv ? "," : "\t";
     const int columns = rows.fieldCount();
     for (int i = 0; i < columns; ++i)
         out << (i == 0 ? "" : separator) << cellText(rows.field(i).name, format);
