@@ -47,6 +47,7 @@ struct MapFormState {
     bool labelFlag = false;      ///< labels of the small areas are on
     bool extentCaptured = false; ///< the view of this run is known
     bool AnimationActive = false;
+    bool oneOfSeveral = false; ///< that it has no figures is no news: the maps beside it may have some
     SavedView savedView;
     int layerCount = 0;
     int groupBaseGeography = 3; ///< what customer groups are made of: 1 CSGs, 2 TV regions, 3 postcode districts

@@ -103,7 +103,7 @@ bool ThematicMap::CreateMap(long boundary, long mapType, int dataSet) {
     logAndGoOn([&] { key_.RebuildKey(); });
     logAndGoOn([&] { surface_.DrawMap(); });
     logAndGoOn([&] {
-        if (numberInReadOut(form_.LblStatusValue[5]) == 0.0 && !form_.AnimationActive) {
+        if (numberInReadOut(form_.LblStatusValue[5]) == 0.0 && !form_.AnimationActive && !form_.oneOfSeveral) {
             showMessage("No Records Found");
             form_.mapReady = true;
         }
@@ -114,6 +114,11 @@ bool ThematicMap::CreateMap(long boundary, long mapType, int dataSet) {
     enableExit();
     form_.mapReady = true;
     return true;
+}
+
+void ThematicMap::letGo() {
+    deleteUpperLayers();
+    surface_.CloseLayerSource(0);
 }
 
 void ThematicMap::ClearMap() {

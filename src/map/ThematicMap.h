@@ -23,6 +23,8 @@ public:
     bool CreateMap(long boundary, long mapType, int dataSet);
     /// Leaves the current layer with one symbol and its file closed.
     void ClearMap();
+    /// Leaves the surface with its base layer alone and every file closed.
+    void letGo();
     /// Appends the layer of names. `animated` changes nothing.
     void AddLabelLayer(long boundary, bool animated = false);
     /// Below customer groups: the areas that belong to no group, in white, and Ireland.

@@ -43,7 +43,9 @@ struct MapSurface::Source {
     std::shared_ptr<const ShapeTable> shapes; // null: nothing has been read
 };
 
-MapSurface::MapSurface() {
+MapSurface::MapSurface() : MapSurface(std::make_shared<GeometryCache>()) {}
+
+MapSurface::MapSurface(std::shared_ptr<GeometryCache> geometry) : geometry_(std::move(geometry)) {
     sources_.push_back(std::make_unique<Source>());
 }
 
@@ -269,8 +271,8 @@ const MapSurface::Source& MapSurface::read(std::size_t index) {
     source.sql = query.sql;
     source.shapes.reset(); // stays so where reading fails, and the next draw tries again
     source.rows = readLayerRows(*source.database, query);
-    source.shapes = geometry_.shapes(*source.database, shapeTableOf(layer.LayerCoverageName, layer.LayerInterpretation),
-                                     layer.LayerInterpretation);
+    source.shapes = geometry_->shapes(
+        *source.database, shapeTableOf(layer.LayerCoverageName, layer.LayerInterpretation), layer.LayerInterpretation);
     return source;
 }
 

@@ -27,6 +27,8 @@ class Recordset;
 class MapSurface {
 public:
     MapSurface();
+    /// Shares the shapes of what it draws with the other surfaces of the cache: none is read twice.
+    explicit MapSurface(std::shared_ptr<GeometryCache> geometry);
     ~MapSurface();
     MapSurface(const MapSurface&) = delete;
     MapSurface& operator=(const MapSurface&) = delete;
@@ -109,7 +111,7 @@ public:
     /// count.
     bool needsDraw() const;
 
-    const GeometryCache& geometry() const { return geometry_; }
+    const GeometryCache& geometry() const { return *geometry_; }
 
 private:
     struct Source; // a layer's open file and the rows read from it
@@ -130,7 +132,7 @@ private:
     MapTool tool_ = MapTool::Information;
     ::ToolBarSetup toolBar_;
     bool showToolBar_ = true;
-    GeometryCache geometry_;
+    std::shared_ptr<GeometryCache> geometry_; // never null
     MapPainter painter_;
     DrawnMap drawn_;
     QImage picture_;

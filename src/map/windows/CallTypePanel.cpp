@@ -11,36 +11,49 @@
 namespace {
 
 constexpr int margin = 10, gap = 4;
-constexpr QSize barSize{36, 16};
+constexpr QSize barSize{36, 16}, smallBarSize{20, 14};
 constexpr const char* callTypes[] = {"Mobile", "International", "VOIP", "Other"};
 
 } // namespace
 
-CallTypePanel::CallTypePanel(QWidget* parent) : QWidget(parent), lblGroup(new QLabel(tr("Group Name:"), this)) {
+CallTypePanel::CallTypePanel(QWidget* parent, Qt::Orientation orientation)
+    : QWidget(parent), orientation_(orientation), lblGroup(new QLabel(tr("Group Name:"), this)) {
     setObjectName(QStringLiteral("fraOtherCallAreas"));
     setAccessibleName(tr("Calls with no place on the map"));
     lblGroup->setObjectName(QStringLiteral("lblGroup"));
     lblGroup->setProperty("role", "caption");
-    auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(margin, margin, margin, margin);
-    grid->setSpacing(gap);
-    grid->addWidget(lblGroup, 0, 2);
     for (int at = 0; at < 4; ++at) {
         const QString type = QString::fromLatin1(callTypes[at]);
         Row& row = rows_[static_cast<std::size_t>(at)];
         row.bar = makeLink(QStringLiteral("ucwl%1Bar").arg(type), QString(), type);
         row.bar->setAutosize(false);
-        row.bar->setFixedSize(barSize);
         row.bar->setAccessibleName(type);
         row.bar->setFocusPolicy(Qt::NoFocus); // its text can be reached
         row.text = makeLink(QStringLiteral("ucwl%1Text").arg(type), type, type);
         row.text->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
         row.group = new QLabel(this);
         row.group->setObjectName(QStringLiteral("lbl%1Group").arg(type));
-        grid->addWidget(row.bar, at + 1, 0);
-        grid->addWidget(row.text, at + 1, 1);
-        grid->addWidget(row.group, at + 1, 2);
     }
+    arrange();
+}
+
+void CallTypePanel::arrange() {
+    const bool card = orientation_ == Qt::Vertical;
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(card ? margin : 0, card ? margin : 0, card ? margin : 0, card ? margin : 0);
+    grid->setSpacing(gap);
+    grid->addWidget(lblGroup, 0, 2);
+    for (int at = 0; at < 4; ++at) {
+        const Row& row = rows_[static_cast<std::size_t>(at)];
+        const int line = card ? at + 1 : 0;
+        const int column = card ? 0 : 3 * at;
+        row.bar->setFixedSize(card ? barSize : smallBarSize);
+        grid->addWidget(row.bar, line, column);
+        grid->addWidget(row.text, line, column + 1);
+        grid->addWidget(row.group, line, column + 2);
+    }
+    if (!card)
+        grid->setColumnStretch(3 * 4, 1);
 }
 
 ucWebbyLink* CallTypePanel::makeLink(const QString& name, const QString& caption, const QString& callType) {
@@ -71,7 +84,8 @@ void CallTypePanel::paintEvent(QPaintEvent*) {
     const cColours_CS colours = skinColours();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintCallTypeCard(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    if (orientation_ == Qt::Vertical)
+        paintCallTypeCard(painter, QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     for (const Row& row : rows_) {
         if (row.bar->isHidden())
             continue;

@@ -18,9 +18,11 @@ constexpr const char* EveryTool =
 
 } // namespace
 
-MapSurfaceWidget::MapSurfaceWidget(QWidget* parent)
-    : QWidget(parent), toolBar_(new MapToolBar(this)), canvas_(new MapCanvas(surface_, this)),
-      bringBack_(new QToolButton(canvas_)) {
+MapSurfaceWidget::MapSurfaceWidget(QWidget* parent) : MapSurfaceWidget(std::make_shared<GeometryCache>(), parent) {}
+
+MapSurfaceWidget::MapSurfaceWidget(std::shared_ptr<GeometryCache> geometry, QWidget* parent)
+    : QWidget(parent), surface_(std::move(geometry)), toolBar_(new MapToolBar(this)),
+      canvas_(new MapCanvas(surface_, this)), bringBack_(new QToolButton(canvas_)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

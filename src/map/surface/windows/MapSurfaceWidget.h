@@ -24,6 +24,8 @@ class MapSurfaceWidget : public QWidget {
 
 public:
     explicit MapSurfaceWidget(QWidget* parent = nullptr);
+    /// One of several maps that share the shapes they draw.
+    MapSurfaceWidget(std::shared_ptr<GeometryCache> geometry, QWidget* parent);
     ~MapSurfaceWidget() override;
 
     MapSurface& surface() { return surface_; }
