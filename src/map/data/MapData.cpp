@@ -5,6 +5,7 @@
 #include "data/engine/Recordset.h"
 #include "data/engine/TableDefs.h"
 #include "data/project/Databases.h"
+#include "map/Boundaries.h"
 #include "stats/CurrentTables.h"
 
 namespace {
@@ -37,6 +38,9 @@ DataTable readDataTable(const DataView& view) {
     if (statement.empty() || view.table.empty())
         throw RuntimeError(5, "There are no figures for boundary " + std::to_string(view.boundary));
     DataTable table;
+    table.title = findBoundary(view.boundary)->text;
+    if (view.densities)
+        table.title += ", per head of population";
     table.rates = view.densities;
     const auto rows = systemDatabase().openRecordset(statement);
     const int columns = rows->fieldCount();
