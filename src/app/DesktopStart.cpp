@@ -16,9 +16,12 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
+#include <QThread>
 #include <QUrl>
+#include <QWindow>
 
 namespace {
 
@@ -29,6 +32,18 @@ void openHelp() {
                         QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
     if (!opened)
         showMessage("The help file cannot be opened: " + file, PromptStyle::Information);
+}
+
+/// A project that is opened next takes its time: the window is painted before.
+void showItself(QWidget& window) {
+    constexpr int longest = 500; // milliseconds; there may be nobody who looks
+    QElapsedTimer waiting;
+    waiting.start();
+    while (!window.windowHandle()->isExposed() && waiting.elapsed() < longest) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(5);
+    }
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void sayNotBuilt(const char* what) {
@@ -59,6 +74,7 @@ void DesktopStart::showMainWindow() {
     mainWindow_ = std::make_unique<FrmMain>();
     connectMainWindow();
     mainWindow_->show();
+    showItself(*mainWindow_);
 }
 
 void DesktopStart::connectMainWindow() {

@@ -11,6 +11,25 @@
 #include <QFileDialog>
 #include <QListWidget>
 
+namespace {
+
+/// Keeps another project out while this one is being opened.
+class Busy {
+public:
+    explicit Busy(FrmMain& window) : window_(window), before_(!window.LstHistory()->isEnabled()) {
+        window_.setBusy(true);
+    }
+    ~Busy() { window_.setBusy(before_); }
+    Busy(const Busy&) = delete;
+    Busy& operator=(const Busy&) = delete;
+
+private:
+    FrmMain& window_;
+    bool before_;
+};
+
+} // namespace
+
 void ProjectLinks::openRow(int row) {
     QListWidget* list = window_.LstHistory();
     if (!list->isEnabled())
@@ -42,6 +61,7 @@ void ProjectLinks::Setup_Dates() {
 }
 
 void ProjectLinks::Setup_Location_List() {
+    const Busy busy(window_); // the calls are read for it
     window_.Setup_Location_List();
 }
 

@@ -13,6 +13,9 @@ public:
     virtual void setMessageBar(long /*maximum*/, long /*value*/) {}
     /// FrmMain's bar Prog1: shown, maximum and value.
     virtual void setReportBar(bool /*visible*/, long /*maximum*/, long /*value*/) {}
+    /// The calls of the project are read into memory: the share that is done, 0 to 1. At 1 that is over. It may happen
+    /// in the midst of other work, whose bars come back then.
+    virtual void setReading(double /*share*/) {}
     /// Long work inside long work switches it on once more; it goes when all have switched it off.
     virtual void setHourglass(bool /*on*/) {}
     /// Lets the message loop run so that windows repaint; the windows that could start other work are disabled by then.

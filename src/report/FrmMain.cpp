@@ -172,6 +172,7 @@ void FrmMain::setLinksEnabled(bool enabled) {
 void FrmMain::setBusy(bool busy) {
     LstHistory()->setEnabled(!busy);
     CmdClose()->setEnabled(!busy);
+    noProject_->setEnabled(!busy);
 }
 
 void FrmMain::DisableForm() {

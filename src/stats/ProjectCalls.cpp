@@ -56,9 +56,17 @@ bool reportsChanges(Database& project) {
     return flag && flag->isNumber() && flag->asDouble() == 1;
 }
 
+/// The bar on which the reading shows itself goes on every way out.
+struct Reading {
+    ~Reading() { progress().setReading(1); }
+};
+
 void build(Database& project, OwnedCalls& owned) {
+    const Reading reading;
+    constexpr double shareOfBuilding = 0.9; // writing them to the file takes the rest
+    const auto done = [](double share) { progress().setReading(shareOfBuilding * share); };
     try {
-        owned.columns = std::make_shared<const CallColumns>(*buildCallColumns(project, yielding));
+        owned.columns = std::make_shared<const CallColumns>(*buildCallColumns(project, yielding, done));
     } catch (...) {
         const ErrorFacts error = currentError();
         owned.refusal = error.description;

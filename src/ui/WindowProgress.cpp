@@ -61,6 +61,32 @@ void WindowProgress::setReportBar(bool visible, long maximum, long value) {
     due_ = true;
 }
 
+void WindowProgress::setReading(double share) {
+    constexpr long whole = 1000;
+    if (!beforeReading_.bar) {
+        FrmMessage* window = FrmMessage::shown();
+        QProgressBar* bar = window ? window->Prog1() : reportBar_.data();
+        if (!bar || share >= 1)
+            return;
+        beforeReading_ = {bar, !bar->isHidden(), bar->maximum(), bar->value()};
+        showBar(true);
+    }
+    QProgressBar& bar = *beforeReading_.bar;
+    setBar(bar, whole, static_cast<long>(share * whole));
+    if (share < 1)
+        return;
+    setBar(bar, beforeReading_.maximum, beforeReading_.value);
+    showBar(beforeReading_.visible);
+    beforeReading_ = {};
+}
+
+void WindowProgress::showBar(bool visible) {
+    beforeReading_.bar->setVisible(visible);
+    if (reportText_ && beforeReading_.bar == reportBar_)
+        reportText_->setVisible(visible);
+    due_ = true;
+}
+
 void WindowProgress::setHourglass(bool on) {
     if (on && ++hourglasses_ == 1)
         QApplication::setOverrideCursor(Qt::WaitCursor);

@@ -27,12 +27,22 @@ public:
     void setTask(const std::string& text) override;
     void setMessageBar(long maximum, long value) override;
     void setReportBar(bool visible, long maximum, long value) override;
+    void setReading(double share) override;
     void setHourglass(bool on) override;
     void yield() override;
 
 private:
     QPointer<QLabel> reportText_;
     QPointer<QProgressBar> reportBar_;
+    /// A bar as it stood before the calls were read on it.
+    struct Bar {
+        QPointer<QProgressBar> bar;
+        bool visible = false;
+        int maximum = 1, value = 0;
+    };
+    void showBar(bool visible); ///< that one, with its text
+
+    Bar beforeReading_;
     QElapsedTimer sinceYield_;
     bool due_ = true; ///< something changed that is to be seen at once
     int hourglasses_ = 0;

@@ -81,6 +81,29 @@ TEST(WindowProgress, ShowsReportsOnTheirBar) {
     EXPECT_FALSE(bar.isVisible());
 }
 
+TEST(WindowProgress, ReadingTakesTheBarOfTheWorkAndGivesItBack) {
+    QLabel text;
+    QProgressBar bar;
+    WindowProgress progressOnScreen;
+    progress().setReading(0.5); // nowhere yet
+    progressOnScreen.showReportOn(&text, &bar);
+    progress().setReading(0.25);
+    EXPECT_TRUE(text.isVisible());
+    EXPECT_EQ(4 * bar.value(), bar.maximum());
+    progress().setReading(1);
+    EXPECT_FALSE(text.isVisible());
+    EXPECT_FALSE(bar.isVisible());
+
+    progress().setReportBar(true, 5, 3);
+    progress().setReading(0.5);
+    progress().setReading(1);
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.maximum(), 5);
+    EXPECT_EQ(bar.value(), 3);
+    progress().setReading(1); // nothing was read: the bar stays as it is
+    EXPECT_EQ(bar.value(), 3);
+}
+
 TEST(WindowProgress, TakesTheHourglassAwayWhenAllHave) {
     {
         WindowProgress progressOnScreen;

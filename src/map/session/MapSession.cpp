@@ -4,12 +4,14 @@
 #include "core/ModDeclarations.h"
 #include "core/Prompts.h"
 #include "core/cPathControl.h"
+#include "data/project/Databases.h"
 #include "groups/ChangedGroups.h"
 #include "map/Boundaries.h"
 #include "map/ClassBreaks.h"
 #include "map/MapMeasures.h"
 #include "map/WholeMap.h"
 #include "map/form/LabelRule.h"
+#include "map/spend/CampaignSpend.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
 #include "report/ReportRun.h"
@@ -18,6 +20,7 @@
 #include "stats/ModData_MaxValues.h"
 #include "stats/SelectionState.h"
 
+#include <cmath>
 #include <filesystem>
 
 namespace {
@@ -25,7 +28,7 @@ namespace {
 constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 constexpr long averageCalls = 8;
 constexpr int dataSet = 1;
-constexpr double pieScale = 80000; ///< from which width on the pie stands over sea
+constexpr double pieScale = 80000;       ///< from which width on the pie stands over sea
 
 std::string emptyMapPath() {
     return joinPath(gPaths ? gPaths->ApplicationDataPath : std::string(), "EmptyMap.bin");
@@ -58,6 +61,8 @@ void MapSession::begin(long boundary, const ReportParameters& parameters) {
     mapTypes_ = mapTypeEntries();
     fitMapTypes(mapTypes_.front().code);
     saveEmptyMap();
+    if (gcCampaignSpend != 0)
+        chargeAreas();
 }
 
 void MapSession::saveEmptyMap() {
@@ -126,6 +131,7 @@ bool MapSession::changeBoundary(long code) {
     const bool rates = densities_ && hasDensities(code) && !FilterActive;
     useTable(rates ? byPopulation(code) : *currentTables.of(code));
     build();
+    chargeAreas();
     return true;
 }
 
@@ -147,6 +153,21 @@ void MapSession::setDensities(bool on) {
     densities_ = on;
     useTable(on ? byPopulation(boundary_) : mainTable(boundary_));
     build();
+    chargeAreas();
+}
+
+/// A table that was counted anew knows nothing of the campaign.
+void MapSession::chargeAreas() {
+    if (updateCostPerCallStats(boundary_, dataSet))
+        return;
+    showMessage("Please obtain up-to-date program files");
+    if (programFilesOutdated)
+        programFilesOutdated();
+}
+
+void MapSession::enterCampaignSpend() {
+    if (::enterCampaignSpend())
+        chargeAreas();
 }
 
 void MapSession::showLabels(bool visible) {
@@ -188,6 +209,18 @@ void MapSession::end() {
     deleteUpperLayers(surface_);
     surface_.CloseLayerSource(0);
     form.closeRequested = false;
+}
+
+std::optional<MapTotals> MapSession::totals() const {
+    std::optional<MapTotals> totals;
+    ignoreErrors([&] {
+        const std::string& shown = *currentTables.of(boundary_);
+        const auto row = systemDatabase().openRecordset("SELECT Sum(TotalCalls1), Sum(Cost1) FROM " +
+                                                        (densities_ ? mainTable(boundary_) : shown));
+        const auto figure = [&](int at) { return row->value(at).isNull() ? 0.0 : row->value(at).asDouble(); };
+        totals = MapTotals{std::llround(figure(0)), figure(1)};
+    });
+    return totals;
 }
 
 CallTypeBars MapSession::bars() const {

@@ -10,11 +10,19 @@
 #include "map/form/MapTypeList.h"
 #include "stats/ReportParameters.h"
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
 class MapKey;
 class MapSurface;
+
+/// Of a whole map: its own areas and the calls without a place.
+struct MapTotals {
+    std::int64_t calls = 0;
+    double cost = 0; ///< pounds
+};
 
 /// What the map window decides, without its widgets: which figures it shows of which boundary, when labels are on, what
 /// a click means. The window calls it in its handlers and shows what it holds. Surface and key outlive it. Errors are
@@ -43,6 +51,11 @@ public:
     /// Rates for each head of population instead of counts.
     void setDensities(bool on);
 
+    /// Asks for the spend of a campaign and spreads it over the areas of the map.
+    void enterCampaignSpend();
+    /// The program's files do not fit each other (the user has been told): the program must end.
+    std::function<void()> programFilesOutdated;
+
     /// The tool bar has been used, before the surface draws.
     void toolBarClicked(long tool);
     /// The surface has been clicked, or its view moved, before it draws.
@@ -60,6 +73,8 @@ public:
     bool densities() const { return densities_; }
     const ReportParameters& parameters() const { return parameters_; }
 
+    /// Counts, also where the map shows rates. Nothing where they could not be read.
+    std::optional<MapTotals> totals() const;
     CallTypeBars bars() const;
     /// The pie; nothing where there is none. `failed` becomes true where it could not be read.
     std::optional<CallTypeSplit> split(bool& failed) const;
@@ -72,6 +87,7 @@ private:
     bool bringGroupsIn(long& code);
     void useTable(const std::string& table);
     void fitMapTypes(long wanted);
+    void chargeAreas();
     void showLabels(bool visible);
     void saveEmptyMap();
     void loadEmptyMap();

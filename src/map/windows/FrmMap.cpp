@@ -10,9 +10,11 @@
 #include "map/windows/CallTypePanel.h"
 #include "map/windows/CallTypePie.h"
 #include "map/windows/FrmCallDetail.h"
+#include "map/windows/FrmMapWork.h"
 #include "map/windows/MapStatusPanel.h"
 #include "stats/SelectionState.h"
 #include "ui/AppIcon.h"
+#include "ui/ucWebbyLink.h"
 #include "ui/uctFooter.h"
 #include "ui/uctHeader.h"
 
@@ -23,6 +25,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
@@ -32,7 +35,7 @@
 namespace {
 
 constexpr int gap = 8, sideWidth = 296;
-constexpr long customerGroups = 5;
+constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 constexpr long averageCalls = 8; ///< map type
 constexpr const char* toolBar =
     ":BUTTON_VISIBLE:1,1,1,1,0,1,0,0,0,0,0,0,0,0,:TOOLTIPS:Zoom Extent,Pan,Zoom In,Zoom "
@@ -47,36 +50,12 @@ bool groupsExist() {
     }
 }
 
+/// Areas of the map can be joined to groups.
+bool canGroup(long boundary) {
+    return boundary == tvRegions || boundary == postcodeDistricts || boundary == customerGroups;
+}
+
 } // namespace
-
-/// Builds let events run: nothing may start another one, and the keyboard stays where it was.
-class FrmMap::Work {
-public:
-    explicit Work(FrmMap& window) : window_(window), focus_(window.focusWidget()) {
-        window_.working_ = true;
-        setEnabled(false);
-    }
-    ~Work() {
-        window_.working_ = false;
-        setEnabled(true);
-        if (focus_)
-            focus_->setFocus();
-    }
-    Work(const Work&) = delete;
-    Work& operator=(const Work&) = delete;
-
-private:
-    void setEnabled(bool enabled) const {
-        for (QWidget* control :
-             std::initializer_list<QWidget*>{window_.CmbBoundary, window_.cmbMapType, window_.chkDensities,
-                                             window_.mapSurface1_, window_.uctFooter1})
-            control->setEnabled(enabled);
-    }
-
-    FrmMap& window_;
-    QPointer<QWidget> focus_;
-    Hourglass hourglass_;
-};
 
 FrmMap::FrmMap(QWidget* parent)
     : QWidget(parent, Qt::Window), mapSurface1_(new MapSurfaceWidget(this)), mapKey1_(mapSurface1_->surface()),
@@ -118,6 +97,7 @@ void FrmMap::makeLists() {
     prog1_->hide();
     session_.fraSaveStatus = [this](bool visible) { fraSaveStatus->setVisible(visible); };
     session_.lblSaveStatus = [this](const std::string& text) { lblSaveStatus->setText(QString::fromStdString(text)); };
+    session_.programFilesOutdated = [this] { emit programFilesOutdated(); };
     session_.lblGroupStatus = [this](const std::string& text) {
         lblGroupStatus->setText(QString::fromStdString(text));
     };
@@ -174,6 +154,7 @@ void FrmMap::arrange() {
     window->addWidget(uctHeader1);
     window->addLayout(middle, 1);
     window->addWidget(uctFooter1);
+    registerLinks();
     uctFooter1->setHelpVisible(true);
     uctFooter1->setExitButtonText(tr("E&xit"));
     uctFooter1->setExitToolTipText(tr("Back to the parameters"));
@@ -183,7 +164,24 @@ void FrmMap::arrange() {
     setMinimumSize(800, 560);
 }
 
+void FrmMap::registerLinks() {
+    const auto make = [this](const char* name, const QString& caption, const QString& tip) {
+        auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
+        link->setObjectName(QString::fromLatin1(name));
+        link->setToolTip(tip);
+        link->setAccessibleDescription(tip);
+        uctFooter1->RegisterButton(link);
+        return link;
+    };
+    lblViewMap = make("lblViewMap", tr("&View Map Data"), tr("The figures of every area in a grid"));
+    lblExcel = make("lblExcel", tr("Exce&l"), tr("A workbook with a picture of this window and its parameters"));
+    lblGroupTools = make("lblGroupTools", tr("Show &Group Tools"), QString());
+    cmdCampaignSpend = make("cmdCampaignSpend", tr("&Campaign Spend"), tr("Enter a Campaign Spend amount"));
+}
+
 void FrmMap::connectControls() {
+    connect(lblExcel, &ucWebbyLink::clicked, this, &FrmMap::CmdExcel_Click);
+    connect(cmdCampaignSpend, &ucWebbyLink::clicked, this, &FrmMap::cmdCampaignSpend_Click);
     connect(CmbBoundary, &QComboBox::activated, this, &FrmMap::CmbBoundary_Click);
     connect(cmbMapType, &QComboBox::activated, this, &FrmMap::cmbMapType_Click);
     connect(chkDensities, &QCheckBox::clicked, this, &FrmMap::chkDensities_Click);
@@ -201,13 +199,7 @@ void FrmMap::connectControls() {
 
 void FrmMap::showReport(long boundary, const ReportParameters& parameters) {
     session_.begin(boundary, parameters);
-    {
-        const QSignalBlocker quiet(CmbBoundary);
-        CmbBoundary->clear();
-        for (const ListEntry& entry : boundaryEntries(groupsExist()))
-            CmbBoundary->addItem(QString::fromUtf8(entry.text.data(), static_cast<qsizetype>(entry.text.size())),
-                                 static_cast<qlonglong>(entry.code));
-    }
+    listBoundaries();
     show();
     {
         const Work work(*this);
@@ -216,6 +208,35 @@ void FrmMap::showReport(long boundary, const ReportParameters& parameters) {
     }
     refresh();
     mapSurface1_->setFocus();
+}
+
+void FrmMap::listBoundaries() {
+    const QSignalBlocker quiet(CmbBoundary);
+    CmbBoundary->clear();
+    for (const ListEntry& entry : boundaryEntries(groupsExist()))
+        CmbBoundary->addItem(QString::fromUtf8(entry.text.data(), static_cast<qsizetype>(entry.text.size())),
+                             static_cast<qlonglong>(entry.code));
+}
+
+void FrmMap::DisableForm() {
+    working_ = true;
+    enableControls();
+}
+
+void FrmMap::EnableForm() {
+    working_ = false;
+    enableControls();
+}
+
+void FrmMap::enableControls() {
+    const bool free = !working_;
+    for (QWidget* control : std::initializer_list<QWidget*>{CmbBoundary, cmbMapType, mapSurface1_, uctFooter1})
+        control->setEnabled(free);
+    chkDensities->setEnabled(free && session_.form.chkDensitiesEnabled);
+    const bool grouping = canGroup(session_.boundary());
+    lblGroupTools->setEnabled(free && grouping);
+    lblGroupTools->setToolTip(grouping ? tr("Make groups of areas on a map")
+                                       : tr("Groups are made on maps of TV regions, post code districts or groups"));
 }
 
 void FrmMap::removeCustomerGroups() {
@@ -303,7 +324,7 @@ void FrmMap::fillMapTypes() {
 void FrmMap::refresh() {
     fillMapTypes();
     CmbBoundary->setCurrentIndex(CmbBoundary->findData(static_cast<qlonglong>(session_.boundary())));
-    chkDensities->setEnabled(session_.form.chkDensitiesEnabled);
+    enableControls();
     chkDensities->setChecked(session_.densities());
     chkDensities->setToolTip(session_.form.chkDensitiesEnabled ? tr("Calls for each head of population")
                                                                : tr("There are no population figures for this map"));
@@ -311,7 +332,18 @@ void FrmMap::refresh() {
     status_->showState(session_.form, boundary && boundary->showsMinimum, SelectionDescription);
     fraOtherCallAreas->setVisible(mapSurface1_->surface().UIMode() == MapTool::Information);
     nameMap();
+    showTotals();
     placePanels();
+}
+
+void FrmMap::showTotals() {
+    const auto totals = session_.totals();
+    const QLocale locale(QLocale::English, QLocale::UnitedKingdom);
+    QStringList details;
+    if (totals)
+        details = {tr("%1 calls").arg(locale.toString(static_cast<qlonglong>(totals->calls))),
+                   tr("cost £%1").arg(locale.toString(totals->cost, 'f', 2))};
+    uctFooter1->SetReportDetails(details);
 }
 
 void FrmMap::showPanels() {

@@ -3,6 +3,7 @@
 #include "map/session/MapSession.h"
 #include "map/surface/MapKey.h"
 
+#include <QImage>
 #include <QWidget>
 
 class CallTypePanel;
@@ -15,6 +16,8 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QProgressBar;
+struct WorkbookParameters;
+class ucWebbyLink;
 class uctFooter;
 class uctHeader;
 
@@ -29,6 +32,9 @@ public:
 
     /// Shows the figures that a report run has made ready. The window comes up with the map.
     void showReport(long boundary, const ReportParameters& parameters);
+    /// Fence off the lists, the map and the tools while one of them works.
+    void EnableForm();
+    void DisableForm();
     /// Takes "Customer Groups" from CmbBoundary.
     void removeCustomerGroups();
 
@@ -41,6 +47,8 @@ public:
 signals:
     void closed();
     void helpRequested();
+    /// The files of the program do not fit each other; the user knows.
+    void programFilesOutdated();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -48,24 +56,33 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    class Work; // the controls are disabled as long as it lives
+    class Work; // the form is disabled as long as it lives
 
     void makeLists();
     QWidget* sidePanel();
     QWidget* saveStatus();
     void arrange();
+    void registerLinks();
     void connectControls();
     void nameMap();
 
     void CmbBoundary_Click(int row);
     void cmbMapType_Click(int row);
     void chkDensities_Click(bool on);
+    void CmdData_Click();
+    void CmdExcel_Click();
+    void cmdCampaignSpend_Click();
     void MapSurface1_ToolBarClick(long tool);
     void MapSurface1_DrawMapFinished();
     void MapSurface1_MapEntityInfo(short layer, long entity);
     void showAnswer(const AreaAnswer& answer);
 
-    void refresh(); ///< every control follows the session
+    QImage pictureWithoutButtons();
+    WorkbookParameters parameters() const;
+    void enableControls(); ///< each by what the window does now
+    void refresh();        ///< every control follows the session
+    void listBoundaries();
+    void showTotals();
     void fillMapTypes();
     void showPanels(); ///< pie and bars
     void placePanels();
@@ -86,6 +103,10 @@ private:
     QLabel* lblGroupStatus = nullptr;
     QLabel* label8_;
     QProgressBar* prog1_;
+    ucWebbyLink* lblViewMap;
+    ucWebbyLink* lblExcel;
+    ucWebbyLink* lblGroupTools;
+    ucWebbyLink* cmdCampaignSpend;
     CallTypePie* fraPie;
     CallTypePanel* fraOtherCallAreas;
     bool working_ = false;

@@ -6,6 +6,7 @@
 #include "data/project/Databases.h"
 #include "data/project/FirstValue.h"
 #include "data/schema/Vocabulary.h"
+#include "stats/CallTexts.h"
 
 namespace {
 
@@ -115,9 +116,12 @@ LocationLists Setup_Location_List() {
             namesIn(projectDatabase(), "SELECT Number1 FROM TblKeyCountries Group by Number1 ORDER BY Number1 Asc"));
     });
     logAndGoOn([&] {
-        lists.destinations =
-            listOf(namesIn(projectDatabase(),
-                           "SELECT DISTINCT TblTeleItem.NetAddress FROM TblTeleItem ORDER BY TblTeleItem.NetAddress"));
+        // A statement sorts all calls for these few names.
+        auto names = callTexts(CallField::NetAddress);
+        if (!names)
+            names = namesIn(projectDatabase(), "SELECT DISTINCT TblTeleItem.NetAddress FROM TblTeleItem ORDER BY "
+                                               "TblTeleItem.NetAddress");
+        lists.destinations = listOf(std::move(*names));
     });
     return lists;
 }

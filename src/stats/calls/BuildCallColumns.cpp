@@ -108,8 +108,8 @@ public:
         }
     }
 
-    /// Sorts the calls by caller.
-    std::optional<CallColumns> finish(const CallProgress& progress);
+    /// Sorts the calls by caller, and tells the share that is done.
+    std::optional<CallColumns> finish(const CallProgress& progress, const std::function<void(double)>& done);
 
 private:
     std::uint32_t idOf(std::size_t text, std::string_view characters) {
@@ -151,7 +151,7 @@ private:
         };
         return runYielding({sort}, progress) && progress(); // a column alone may be done before the first yield
     }
-    bool sortColumns(const CallProgress& progress);
+    bool sortColumns(const CallProgress& progress, const std::function<void(double)>& done);
 
     CallColumns columns_;
     DateIds dates_;
@@ -194,26 +194,28 @@ void Encoder::placeCalls() {
 }
 
 /// One column after the other, so that only one is there twice.
-bool Encoder::sortColumns(const CallProgress& progress) {
+bool Encoder::sortColumns(const CallProgress& progress, const std::function<void(double)>& done) {
+    const double columns = 2.0 + static_cast<double>(columns_.ids.size());
+    double sorted = 0;
+    const auto sort = [&](auto& column, auto& spare) {
+        done(sorted++ / columns);
+        return column.empty() || sortColumn(column, spare, progress);
+    };
     {
         std::vector<std::int32_t> spare;
-        if (!sortColumn(columns_.money, spare, progress))
+        if (!sort(columns_.money, spare))
             return false;
     }
     {
         std::vector<std::uint8_t> spare;
-        if (!sortColumn(columns_.answerInd, spare, progress))
+        if (!sort(columns_.answerInd, spare))
             return false;
     }
     std::vector<std::uint16_t> spare;
-    for (auto& column : columns_.ids) {
-        if (!column.empty() && !sortColumn(column, spare, progress))
-            return false;
-    }
-    return true;
+    return std::all_of(columns_.ids.begin(), columns_.ids.end(), [&](auto& column) { return sort(column, spare); });
 }
 
-std::optional<CallColumns> Encoder::finish(const CallProgress& progress) {
+std::optional<CallColumns> Encoder::finish(const CallProgress& progress, const std::function<void(double)>& done) {
     columns_.values[indexOf(CallField::Date)] = dates_.values();
     for (std::size_t i = 0; i < callerText; ++i)
         columns_.values[indexOf(textFields[i])] = texts_[i].values();
@@ -224,7 +226,7 @@ std::optional<CallColumns> Encoder::finish(const CallProgress& progress) {
     };
     if (!runYielding({place}, progress))
         return {};
-    if (!sortColumns(progress))
+    if (!sortColumns(progress, done))
         return {};
     return std::move(columns_);
 }
@@ -311,8 +313,11 @@ struct Closing {
 };
 
 /// Whether all rows were read.
-bool readAll(CallReader& reader, Exchange& exchange, const CallProgress& progress) {
+bool readAll(CallReader& reader, Exchange& exchange, const CallProgress& progress,
+             const std::function<void(std::size_t)>& rowsRead) {
+    std::size_t rows = 0;
     while (!exchange.hasFailed()) {
+        rowsRead(rows);
         if (!progress())
             return false;
         auto chunk = exchange.emptyChunk();
@@ -321,6 +326,7 @@ bool readAll(CallReader& reader, Exchange& exchange, const CallProgress& progres
         reader.read(*chunk);
         if (chunk->rows() == 0)
             break;
+        rows += chunk->rows();
         exchange.give(std::move(*chunk));
     }
     return true;
@@ -328,19 +334,31 @@ bool readAll(CallReader& reader, Exchange& exchange, const CallProgress& progres
 
 } // namespace
 
-std::optional<CallColumns> buildCallColumns(Database& project, const CallProgress& progress) {
+std::optional<CallColumns> buildCallColumns(Database& project, const CallProgress& progress,
+                                            const std::function<void(double)>& done) {
     const SmallPageCache readOnce(project);
     CallReader reader(project);
-    Encoder encoder(expectedRows(project));
+    const std::size_t expected = expectedRows(project);
+    Encoder encoder(expected);
+    const auto tell = [&](double share) {
+        if (done)
+            done(std::min(share, 1.0));
+    };
+    constexpr double shareOfReading = 0.7; // sorting takes the rest
+    const auto rowsRead = [&](std::size_t rows) {
+        tell(shareOfReading * static_cast<double>(rows) / static_cast<double>(std::max(expected, rows + 1)));
+    };
     Exchange exchange;
     auto encoding = std::async(std::launch::async, [&] { exchange.encodeAll(encoder); });
     bool complete = false;
     {
         const Closing closing{exchange};
-        complete = readAll(reader, exchange, progress);
+        complete = readAll(reader, exchange, progress, rowsRead);
     }
     while (encoding.wait_for(std::chrono::milliseconds(40)) != std::future_status::ready)
         complete = progress() && complete;
     encoding.get();
-    return complete ? encoder.finish(progress) : std::nullopt;
+    if (!complete)
+        return {};
+    return encoder.finish(progress, [&](double share) { tell(shareOfReading + (1 - shareOfReading) * share); });
 }

@@ -12,4 +12,7 @@ class Database;
 ///
 /// Throws DatabaseError as CallReader does, and 3421 where a column holds more distinct values than ids: 255 for
 /// AnswerInd, 65,535 for the others. The figures of such a project come from statements.
-std::optional<CallColumns> buildCallColumns(Database& project, const CallProgress& progress);
+///
+/// `done` is told the share of the work that is done, from 0 to 1, as `progress` is called.
+std::optional<CallColumns> buildCallColumns(Database& project, const CallProgress& progress,
+                                            const std::function<void(double)>& done = {});

@@ -2,6 +2,7 @@
 
 #include "core/ModDeclarations.h"
 #include "data/project/Databases.h"
+#include "stats/FigureEngine.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/SmallInstallation.h"
 
@@ -81,6 +82,27 @@ TEST_F(SetupLists, OfferAnswerPointsTheirGroupsAndDestinations) {
     EXPECT_EQ(lists.answerPointGroups.remembered, "North") << "a group, not what is in none";
     EXPECT_EQ(lists.destinations.rows, (Texts{"D1", "D2"}));
     EXPECT_TRUE(gdbCommunityGroups && gdbCommunityGroups->isOpen());
+    EXPECT_EQ(installation_.logLines(), Texts{});
+}
+
+TEST_F(SetupLists, DestinationsAreTheSameFromColumnsAsByTheStatement) {
+    SmallCall call{.caller = "1", .code = "01", .answerInd = "0"};
+    std::vector<SmallCall> calls;
+    for (const char* destination : {"D10", "d2", "D1", "D2 ", "", "9", "Ä", "a", "D1"}) {
+        call.destination = destination;
+        calls.push_back(call);
+    }
+    installation_.addCalls(calls);
+    gdbProject->execute("INSERT INTO TblTeleItem (CallingNo) VALUES ('2')"); // to a destination that is null
+    Texts read[2];
+    for (const bool scanned : {true, false}) {
+        setFigureEngine(scanned ? FigureEngine::Automatic : FigureEngine::Statements);
+        for (const std::string& name : Setup_Location_List().destinations.rows)
+            read[scanned].push_back(foldText(name)); // which spelling stands for a name is open
+    }
+    setFigureEngine(FigureEngine::Automatic);
+    EXPECT_EQ(read[1], read[0]);
+    EXPECT_EQ(read[1].size(), 7U);
     EXPECT_EQ(installation_.logLines(), Texts{});
 }
 

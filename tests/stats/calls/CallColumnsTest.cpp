@@ -86,6 +86,19 @@ TEST(CallColumns, RefuseWhatFiguresCannotBeMadeOf) {
     EXPECT_THROW(buildCallColumns(*gdbProject, goOn), DatabaseError);
 }
 
+TEST(CallColumns, TellHowFarTheirBuildingHasCome) {
+    const SmallInstallation installation;
+    for (int call = 0; call < 20; ++call)
+        insertCall("1, '09:00', 'x', '" + std::to_string(call % 7) + "', '01', '4', 0");
+    std::vector<double> shares;
+    ASSERT_TRUE(buildCallColumns(*gdbProject, goOn, [&](double share) { shares.push_back(share); }));
+    ASSERT_GE(shares.size(), 3U);
+    EXPECT_TRUE(std::is_sorted(shares.begin(), shares.end()));
+    EXPECT_GE(shares.front(), 0);
+    EXPECT_LE(shares.back(), 1);
+    EXPECT_GT(shares.back(), 0.7);
+}
+
 TEST(CallColumns, StopWhenAskedTo) {
     const SmallInstallation installation;
     insertCall("1, '09:00', 'x', '1', '01', '4', 0");

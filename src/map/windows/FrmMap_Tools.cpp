@@ -1,0 +1,77 @@
+#include "core/ModDeclarations.h"
+#include "map/surface/windows/MapSurfaceWidget.h"
+#include "map/surface/windows/MapToolBar.h"
+#include "map/windows/FrmMapWork.h"
+#include "map/workbook/Workbook.h"
+#include "stats/SelectionState.h"
+#include "ui/OpenDocument.h"
+#include "ui/uctFooter.h"
+
+#include <QApplication>
+#include <QLayout>
+
+#include <vector>
+
+namespace {
+
+/// Out of sight, without a flicker, as long as it lives.
+class Hidden {
+public:
+    Hidden(QWidget& window, std::initializer_list<QWidget*> controls) : window_(window), controls_(controls) {
+        window_.setUpdatesEnabled(false);
+        show(false);
+    }
+    ~Hidden() {
+        show(true);
+        window_.setUpdatesEnabled(true);
+    }
+    Hidden(const Hidden&) = delete;
+    Hidden& operator=(const Hidden&) = delete;
+
+private:
+    void show(bool visible) {
+        for (QWidget* control : controls_)
+            control->setVisible(visible);
+        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+        window_.layout()->activate();
+    }
+
+    QWidget& window_;
+    std::vector<QWidget*> controls_;
+};
+
+} // namespace
+
+QImage FrmMap::pictureWithoutButtons() {
+    const Hidden hidden(*this, {uctFooter1, &mapSurface1_->toolBar()});
+    mapSurface1_->shownPicture(); // drawn at the size that it has now
+    return grab().toImage();
+}
+
+WorkbookParameters FrmMap::parameters() const {
+    const auto& shown = session_.form.LblStatusValue;
+    return {.startDate = shown[0],
+            .startTime = shown[2],
+            .endDate = shown[1],
+            .endTime = shown[3],
+            .selectionDescription = SelectionDescription};
+}
+
+void FrmMap::CmdExcel_Click() {
+    if (working_)
+        return;
+    const QImage picture = pictureWithoutButtons();
+    const Work work(*this);
+    gsCurrentProc = "FrmMap_CmdExcel_Click";
+    logAndTell([&] {
+        const std::string path = newDocumentPath("Map", "xlsx");
+        writeMapWorkbook(path, parameters(), picture);
+        openDocument(path);
+    });
+}
+
+void FrmMap::cmdCampaignSpend_Click() {
+    if (working_)
+        return;
+    session_.enterCampaignSpend();
+}
