@@ -4,6 +4,7 @@
 #include "core/ModDeclarations.h"
 #include "data/project/Databases.h"
 #include "report/CaptureRow.h"
+#include "report/RememberedChoices.h"
 #include "stats/CurrentProcedure.h"
 #include "stats/ProjectCalls.h"
 
@@ -15,52 +16,16 @@ bool RecomputeSelection = false;
 
 namespace {
 
-/// A list of FrmMain from which a report takes one entry, where its option is set.
-struct Choice {
-    std::string_view column;
-    bool isSet;
-    const std::string& text;
-};
-
-std::vector<Choice> choicesOf(const ReportParameters& parameters) {
-    return {{"SelectedInboundNo", parameters.OptInbound == 1, parameters.CmbInbound},
-            {"SelectedCommunityGroup", parameters.OptInbound == 2, parameters.cmbCG},
-            {"SelectedAnswerPt", parameters.OptAnswer == 1, parameters.CmbAnswer},
-            {"SelectedAnswerPtGroup", parameters.OptAnswer == 2, parameters.CmbAnswerGroup},
-            {"SelectedDestinationNo", parameters.optDestinationNo == 1, parameters.cmbDestinationNo}};
-}
-
 std::string numbered(std::string_view column, int slot) {
     return std::string(column) + std::to_string(slot);
 }
 
-bool choicesDiffer(const Recordset& row, const ReportParameters& parameters, int slot) {
-    for (const Choice& choice : choicesOf(parameters)) {
-        const std::string stored = row.value(numbered(choice.column, slot)).asText();
-        if (stored.empty() ? choice.isSet : !choice.isSet || choice.text != stored)
-            return true;
-    }
-    return false;
-}
-
-void setChoices(Recordset& row, const ReportParameters& parameters, int slot) {
-    for (const Choice& choice : choicesOf(parameters))
-        row.set(numbered(choice.column, slot), choice.isSet ? choice.text : std::string());
-}
-
-/// Days and times of day are compared by their digits, "DDMMYY" and "HHMMSS".
-bool sameDay(const Value& stored, Date day) {
-    if (stored.isNull())
-        return false;
-    const DateParts a = partsOf(stored.asDate()), b = partsOf(day);
-    return a.day == b.day && a.month == b.month && a.year % 100 == b.year % 100;
-}
-
-bool sameTime(const Value& stored, Date time) {
-    if (stored.isNull())
-        return false;
-    const DateParts a = partsOf(stored.asDate()), b = partsOf(time);
-    return a.hour == b.hour && a.minute == b.minute && a.second == b.second;
+std::vector<RememberedChoice> choicesOf(const ReportParameters& parameters, int slot) {
+    return {{numbered("SelectedInboundNo", slot), parameters.OptInbound == 1, parameters.CmbInbound},
+            {numbered("SelectedCommunityGroup", slot), parameters.OptInbound == 2, parameters.cmbCG},
+            {numbered("SelectedAnswerPt", slot), parameters.OptAnswer == 1, parameters.CmbAnswer},
+            {numbered("SelectedAnswerPtGroup", slot), parameters.OptAnswer == 2, parameters.CmbAnswerGroup},
+            {numbered("SelectedDestinationNo", slot), parameters.optDestinationNo == 1, parameters.cmbDestinationNo}};
 }
 
 /// One range of dates and hours of day.
@@ -112,8 +77,9 @@ bool changedByCallscope() {
 
 bool selectionDiffers(const Recordset& row, const ReportParameters& parameters) {
     return row.value("BoundaryType1").asText() != gsBoundaryType ||
-           rangeDiffers(row, singleRange(parameters), singleSlot) || choicesDiffer(row, parameters, singleSlot) ||
-           row.value("Overnight").isNull() || row.value("Overnight").asBoolean() != parameters.ChkOverNight;
+           rangeDiffers(row, singleRange(parameters), singleSlot) ||
+           choicesDiffer(row, choicesOf(parameters, singleSlot)) || row.value("Overnight").isNull() ||
+           row.value("Overnight").asBoolean() != parameters.ChkOverNight;
 }
 
 bool multiSelectionDiffers(const Recordset& row, const ReportParameters& parameters, const MultiMapParameters& ranges) {
@@ -125,7 +91,7 @@ bool multiSelectionDiffers(const Recordset& row, const ReportParameters& paramet
             return true;
     }
     const Value& counted = row.value("MultiMaps");
-    return choicesDiffer(row, parameters, firstMultiSlot) || counted.isNull() ||
+    return choicesDiffer(row, choicesOf(parameters, firstMultiSlot)) || counted.isNull() ||
            counted.asInteger() != mapCount(ranges);
 }
 
@@ -151,7 +117,7 @@ void SaveSelectedData(const ReportParameters& parameters) {
         row.set("BoundaryType1", gsBoundaryType);
         setRange(row, singleRange(parameters), singleSlot);
         row.set("Overnight", parameters.ChkOverNight ? 1 : 0);
-        setChoices(row, parameters, singleSlot);
+        setChoices(row, choicesOf(parameters, singleSlot));
         row.Update();
     });
 }
@@ -171,7 +137,7 @@ void SaveMultiData(const ReportParameters& parameters, const MultiMapParameters&
         row.set("BoundaryType2", gsBoundaryType);
         for (int map = 0; map < maps; ++map)
             setRange(row, rangeOf(ranges, map), firstMultiSlot + map);
-        setChoices(row, parameters, firstMultiSlot);
+        setChoices(row, choicesOf(parameters, firstMultiSlot));
         row.set("MultiMaps", mapCount(ranges));
         row.Update();
     });

@@ -1,0 +1,33 @@
+#include "animation/AnimationTyping.h"
+
+#include "animation/Animation.h"
+#include "animation/AnimationSettings.h"
+
+#include <cmath>
+
+bool isNumberCharacter(char32_t character) {
+    constexpr char32_t copy = 3, backspace = 8, carriageReturn = 13, paste = 22;
+    return (character >= U'0' && character <= U'9') || character == copy || character == backspace ||
+           character == carriageReturn || character == paste;
+}
+
+std::string framesFault(std::string_view text) {
+    if (trimmedText(text).empty())
+        return {};
+    const auto number = numberOf(text);
+    if (!number)
+        return notNumeric;
+    if (*number > maximumFrames)
+        return "Invalid value entered - value must not exceed 10.";
+    return *number == std::floor(*number) ? "" : notWhole;
+}
+
+std::string intervalFault(std::string_view text) {
+    constexpr double longest = 30; // seconds
+    if (trimmedText(text).empty())
+        return {};
+    const auto number = numberOf(text);
+    if (!number)
+        return notNumeric;
+    return *number > longest ? "Invalid value entered - value must not exceed 30." : "";
+}
