@@ -13,7 +13,7 @@ int DataModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant DataModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+    if (!index.isValid())
         return {};
     const Value& value = table_.rows[index.row()][index.column()];
     switch (role) {
