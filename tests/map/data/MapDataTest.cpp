@@ -140,8 +140,9 @@ TEST_F(MapDataTest, MoneyIsTextAndCSGsStandInTheOrderOfTheirNumbers) {
             continue;
         EXPECT_GT(*csg, before);
         before = static_cast<long>(*csg);
-        if (row[0].asText() == "7")
+        if (row[0].asText() == "7") {
             EXPECT_EQ(row[4], Value("£1234.50"));
+        }
     }
     EXPECT_GT(before, 100);
 }

@@ -88,8 +88,8 @@ TEST(FrmData, ShowsTheAreasAndFindsThemByName) {
 TEST(FrmData, IsAsWideAsItsColumnsAndNoWiderThanTheScreen) {
     DataTable few = districts(3);
     for (auto& row : few.rows)
-        row.resize(4);
-    few.captions.resize(4);
+        row.resize(6);
+    few.captions.resize(6);
     FrmData narrow(few, february);
     narrow.show();
     EXPECT_EQ(narrow.width(), narrow.findChild<DataGrid*>()->columnsWidth() + 103);
