@@ -3,7 +3,6 @@
 #include "map/surface/MapKey.h"
 #include "ui/Skin.h"
 
-#include <QBuffer>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -79,10 +78,10 @@ QImage drawMultiMapPicture(const MultiMapPicture& picture, const MapKey& key) {
         std::max(picture.view.height(), 2 * gap + 2.5 * lineHeight + std::ceil(key.neededSize().height()));
     const QSizeF size(side + picture.view.width(), height);
     QImage image((size * picture.devicePixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(picture.devicePixelRatio);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.scale(picture.devicePixelRatio, picture.devicePixelRatio);
     paintSide(painter, picture, key);
     painter.setClipRect(QRectF(QPointF(side, 0), picture.view));
     painter.translate(side, 0);
@@ -90,12 +89,4 @@ QImage drawMultiMapPicture(const MultiMapPicture& picture, const MapKey& key) {
     for (const MapOfPicture& map : picture.maps)
         paintMap(painter, map);
     return image;
-}
-
-std::vector<unsigned char> pngOf(const QImage& image) {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return {bytes.begin(), bytes.end()};
 }

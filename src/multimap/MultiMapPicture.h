@@ -31,6 +31,3 @@ struct MultiMapPicture {
 
 /// Draws it with the key at its left. Main thread; needs a QGuiApplication.
 QImage drawMultiMapPicture(const MultiMapPicture& picture, const MapKey& key);
-
-/// The same as the bytes of a PNG file.
-std::vector<unsigned char> pngOf(const QImage& image);

@@ -1,19 +1,14 @@
 #include "multimap/MultiMapSession.h"
 
-#include "core/ModDeclarations.h"
 #include "core/Progress.h"
 #include "data/project/Databases.h"
 #include "map/MapMeasures.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
-#include "report/CaptureProject.h"
-#include "report/OpenInstallation.h"
-#include "report/ReportRun.h"
-#include "sample/installation/SampleInstallation.h"
 #include "stats/CurrentTables.h"
 #include "stats/MapMaxima.h"
+#include "tests/multimap/SampleWeeks.h"
 #include "tests/support/ScriptedPrompts.h"
-#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -26,36 +21,15 @@ constexpr long tvRegions = 2, postcodeDistricts = 3;
 /// Maps of a captured sample project, each with a week of its calls.
 class MultiMapSessionTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        folder_ = new TemporaryFolder;
-        const auto sample = sample::makeSampleInstallation({.folder = folder_->text(), .calls = 5'000, .seed = 2});
-        openInstallation(folder_->text());
-        openProject(sample.projectPath);
-        captureProject();
-    }
-    static void TearDownTestSuite() {
-        resetGlobals();
-        resetDefaultWorkspace();
-        delete folder_;
-    }
+    static void SetUpTestSuite() { sample_ = new SampleWeeks; }
+    static void TearDownTestSuite() { delete sample_; }
 
     MultiMapSessionTest() {
         for (MapSurface& surface : surfaces_)
             surface.setPixelSize({240, 300});
     }
 
-    /// `optPeriods`: 0 two maps, 1 four, 2 six.
-    static MultiMapParameters weeks(int optPeriods) {
-        MultiMapParameters ranges{.OptPeriods = optPeriods};
-        const Date first = wholeProject().DTStart;
-        for (std::size_t n = 0; n < 6; ++n) {
-            Date* picked = &ranges.DTPicker1[4 * n];
-            picked[0].days = first.days + 7.0 * static_cast<double>(n);
-            picked[2].days = picked[0].days + 6;
-            picked[3].days = 86399.0 / 86400;
-        }
-        return ranges;
-    }
+    static MultiMapParameters weeks(int optPeriods) { return SampleWeeks::weeks(optPeriods); }
     void start(long boundary, const MultiMapParameters& ranges) {
         runMultiMapReport(boundary, wholeProject(), ranges);
         session_.begin(boundary, ranges);
@@ -69,7 +43,7 @@ protected:
         return key.sections().at(0).entries;
     }
 
-    inline static TemporaryFolder* folder_ = nullptr;
+    inline static SampleWeeks* sample_ = nullptr;
     ScriptedPrompts prompts_;
     std::shared_ptr<GeometryCache> shapes_ = std::make_shared<GeometryCache>();
     std::array<MapSurface, 6> surfaces_{MapSurface(shapes_), MapSurface(shapes_), MapSurface(shapes_),

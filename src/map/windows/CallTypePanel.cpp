@@ -11,6 +11,7 @@
 namespace {
 
 constexpr int margin = 10, gap = 4;
+constexpr double barRadius = 6.5; ///< round the corners of a link
 constexpr QSize barSize{36, 16}, smallBarSize{20, 14};
 constexpr const char* callTypes[] = {"Mobile", "International", "VOIP", "Other"};
 
@@ -40,14 +41,16 @@ CallTypePanel::CallTypePanel(QWidget* parent, Qt::Orientation orientation)
 void CallTypePanel::arrange() {
     const bool card = orientation_ == Qt::Vertical;
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(card ? margin : 0, card ? margin : 0, card ? margin : 0, card ? margin : 0);
-    grid->setSpacing(gap);
+    const int border = card ? margin : 1; // of a bar
+    grid->setContentsMargins(border, border, border, border);
+    grid->setSpacing(card ? gap : gap / 2);
     grid->addWidget(lblGroup, 0, 2);
     for (int at = 0; at < 4; ++at) {
         const Row& row = rows_[static_cast<std::size_t>(at)];
         const int line = card ? at + 1 : 0;
         const int column = card ? 0 : 3 * at;
         row.bar->setFixedSize(card ? barSize : smallBarSize);
+        row.text->setAutosize(card); // a line gives way to a narrow map
         grid->addWidget(row.bar, line, column);
         grid->addWidget(row.text, line, column + 1);
         grid->addWidget(row.group, line, column + 2);
@@ -91,6 +94,6 @@ void CallTypePanel::paintEvent(QPaintEvent*) {
             continue;
         painter.setBrush(Qt::NoBrush);
         painter.setPen(toColor(colours.Grey(4)));
-        painter.drawRect(QRectF(row.bar->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5));
+        painter.drawRoundedRect(QRectF(row.bar->geometry()).adjusted(-0.5, -0.5, 0.5, 0.5), barRadius, barRadius);
     }
 }

@@ -26,7 +26,13 @@ std::vector<ParameterLine> parameterLines(const WorkbookParameters& parameters) 
                                      {"Start Time=", parameters.startTime},
                                      {"End Date=", parameters.endDate},
                                      {"End Time=", parameters.endTime}};
-    std::string description = parameters.selectionDescription;
+    const std::vector<ParameterLine> selected = descriptionLines(parameters.selectionDescription);
+    lines.insert(lines.end(), selected.begin(), selected.end());
+    return lines;
+}
+
+std::vector<ParameterLine> descriptionLines(std::string description) {
+    std::vector<ParameterLine> lines;
     eraseOvernight(description);
     std::string_view rest = description;
     while (!rest.empty()) {

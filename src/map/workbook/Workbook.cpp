@@ -13,7 +13,7 @@
 
 namespace {
 
-void fillParameters(Book& book, const WorkbookParameters& parameters) {
+void fillParameters(Book& book, const std::vector<ParameterLine>& lines) {
     lxw_worksheet* sheet = book.sheet("Parameters");
     lxw_format* bold = book.format();
     format_set_bold(bold);
@@ -21,7 +21,7 @@ void fillParameters(Book& book, const WorkbookParameters& parameters) {
     double nameWidth = widthOf("Map Parameters:");
     double valueWidth = 10;
     lxw_row_t row = 1;
-    for (const ParameterLine& line : parameterLines(parameters)) {
+    for (const ParameterLine& line : lines) {
         worksheet_write_string(sheet, row, 0, line.name.c_str(), nullptr);
         worksheet_write_string(sheet, row, 1, line.value.c_str(), nullptr);
         nameWidth = std::max(nameWidth, widthOf(line.name));
@@ -105,12 +105,16 @@ void fillMap(Book& book, const QByteArray& png) {
 
 void writeDataWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data) {
     Book book(path);
-    fillParameters(book, parameters);
+    fillParameters(book, parameterLines(parameters));
     worksheet_activate(fillData(book, data));
     book.close();
 }
 
 void writeMapWorkbook(const std::string& path, const WorkbookParameters& parameters, const QImage& picture) {
+    writeMapWorkbook(path, parameterLines(parameters), picture);
+}
+
+void writeMapWorkbook(const std::string& path, const std::vector<ParameterLine>& parameters, const QImage& picture) {
     if (picture.isNull())
         throw RuntimeError(5, "There is no picture of the map for '" + path + "'");
     const QByteArray png = pngOf(picture);
@@ -124,7 +128,7 @@ void writeWorkbook(const std::string& path, const WorkbookParameters& parameters
                    const QImage& picture) {
     const QByteArray png = pngOf(picture);
     Book book(path);
-    fillParameters(book, parameters);
+    fillParameters(book, parameterLines(parameters));
     fillData(book, data);
     if (!picture.isNull())
         fillMap(book, png);

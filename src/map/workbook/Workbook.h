@@ -17,6 +17,8 @@ struct ParameterLine {
     std::string name, value;
 };
 std::vector<ParameterLine> parameterLines(const WorkbookParameters& parameters);
+/// Those of a selection's description alone.
+std::vector<ParameterLine> descriptionLines(std::string description);
 
 /// Workbooks of a map. Each begins with the sheet "Parameters". All throw RuntimeError 75, naming the path, where the
 /// file cannot be written.
@@ -28,6 +30,8 @@ void writeDataWorkbook(const std::string& path, const WorkbookParameters& parame
 /// With the sheet "Map": the picture, at its size on the screen. "Parameters" is selected. A picture without pixels is
 /// error 5.
 void writeMapWorkbook(const std::string& path, const WorkbookParameters& parameters, const QImage& picture);
+/// The same for maps whose parameters are lines of their own.
+void writeMapWorkbook(const std::string& path, const std::vector<ParameterLine>& parameters, const QImage& picture);
 
 /// With both. The picture may be null: then there is no sheet "Map".
 void writeWorkbook(const std::string& path, const WorkbookParameters& parameters, const DataTable& data,

@@ -92,7 +92,7 @@ void FrmMultiMap::makeReportArea() {
     ReportArea->setWidget(sheet_);
     ReportArea->setWidgetResizable(true);
     ReportArea->setFrameShape(QFrame::NoFrame);
-    ReportArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    ReportArea->horizontalScrollBar()->setObjectName(QStringLiteral("scrHorizontal"));
     ReportArea->setFocusPolicy(Qt::NoFocus); // the maps take the focus, and come into view with it
     ReportArea->verticalScrollBar()->setObjectName(QStringLiteral("scrVertical"));
 }
@@ -304,7 +304,7 @@ void FrmMultiMap::saveWorkbook(const std::string& path) {
     picture.devicePixelRatio = devicePixelRatioF();
     for (int n = 1; n <= session_.count(); ++n)
         picture.maps.push_back(pane(n)->picture(view));
-    writeMultiMapWorkbook(path, parametersOfMaps(session_), pngOf(drawMultiMapPicture(picture, mapKey1_)));
+    writeMapWorkbook(path, parametersOfMaps(session_), drawMultiMapPicture(picture, mapKey1_));
 }
 
 void FrmMultiMap::keyPressEvent(QKeyEvent* event) {

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int gap = 4;
-constexpr QSize smallestMap{320, 180}; ///< on which regions can still be told apart
+constexpr QSize smallestMap{288, 180}; ///< on which regions can still be told apart
 constexpr const char* toolBar =
     ":BUTTON_VISIBLE:1,1,1,1,0,1,0,0,0,0,0,0,0,1,:TOOLTIPS:Zoom Extent,Pan,Zoom In,Zoom "
     "Out,Measure,Information,Information,Circle Query,Draw Point,Draw Polyline,Draw Polygon,Draw Circle,Hide "
