@@ -1,5 +1,6 @@
 #include "map/data/windows/DataGrid.h"
 
+#include "map/data/windows/CaptionRow.h"
 #include "map/data/windows/DataModel.h"
 #include "map/data/windows/FrozenColumn.h"
 #include "ui/Skin.h"
@@ -9,6 +10,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
@@ -18,14 +20,28 @@
 namespace {
 
 constexpr int lineHeight = 26;
-constexpr int leastColumn = 72, leastAreaColumn = 150;
+constexpr int leastColumn = 64, leastAreaColumn = 130;
 constexpr int widerForRates = 20;
-constexpr int cellPadding = 20, captionPadding = 38; ///< of a caption with the mark of sorting
+constexpr int cellMargin = 8, gridLine = 2, captionPadding = 28; ///< of a caption with the mark of sorting
 
-/// Shows by which column the grid is sorted.
-class SortColumnDelegate : public QStyledItemDelegate {
+/// Draws a cell with air beside its text, in a colour of its own where the grid is sorted by its column.
+class CellDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        const QStyle& style = *cell.widget->style();
+        style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, cell.widget);
+        const bool selected = cell.state.testFlag(QStyle::State_Selected);
+        const QRect room = cell.rect.adjusted(cellMargin, 0, -cellMargin, 0);
+        const QString text = cell.fontMetrics.elidedText(cell.text, Qt::ElideRight, room.width());
+        style.drawItemText(painter, room, static_cast<int>(cell.displayAlignment), cell.palette, true, text,
+                           selected ? QPalette::HighlightedText : QPalette::Text);
+        if (cell.state.testFlag(QStyle::State_HasFocus))
+            drawFocus(*painter, cell.rect, selected);
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
@@ -33,6 +49,14 @@ protected:
         const auto* sorted = qobject_cast<const SortedData*>(index.model());
         if (sorted && sorted->sortColumn() == index.column())
             option->backgroundBrush = toColor(skinColours().GridSortColour());
+    }
+
+private:
+    static void drawFocus(QPainter& painter, const QRect& cell, bool selected) {
+        painter.save();
+        painter.setPen(QPen(toColor(skinColours().Turquoise(selected ? 3 : 5)), 2));
+        painter.drawRect(cell.adjusted(1, 1, -1, -1));
+        painter.restore();
     }
 };
 
@@ -54,11 +78,13 @@ int captionWidth(const QFontMetrics& metrics, const QString& caption) {
 DataGrid::DataGrid(DataTable table, QWidget* parent)
     : QTableView(parent), sorted_(new SortedData(table, this)), frozen_(new FrozenColumn(*this)) {
     setModel(sorted_);
-    setItemDelegate(new SortColumnDelegate(this));
+    setItemDelegate(new CellDelegate(this));
     setSelectionMode(ExtendedSelection);
     setAlternatingRowColors(true);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
+    setCornerWidget(new QWidget(this));
+    setHorizontalHeader(new CaptionRow(this));
     setTabKeyNavigation(false); // Tab leaves the grid
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -88,17 +114,21 @@ void DataGrid::addCopyActions() {
 }
 
 int DataGrid::widthOf(const DataTable& table, int column) const {
-    // The text with the most characters stands for all: measuring each would be felt with thousands of rows.
+    // Of figures the one with the most digits stands for all: measuring each would be felt with thousands of rows.
+    int width = 0;
     QString longest;
     for (const std::vector<Value>& row : table.rows) {
         const QString text = textOf(row[column]);
-        if (text.size() > longest.size())
-            longest = text;
+        if (column > 0 && text.size() <= longest.size())
+            continue;
+        longest = text;
+        width = std::max(width, fontMetrics().horizontalAdvance(text));
     }
-    return fontMetrics().horizontalAdvance(longest) + cellPadding;
+    return width + 2 * cellMargin + gridLine;
 }
 
 void DataGrid::fitColumns(const DataTable& table) {
+    ensurePolished();
     QFont bold = font();
     bold.setBold(true);
     const QFontMetrics captions(bold);

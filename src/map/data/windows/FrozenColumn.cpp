@@ -1,6 +1,7 @@
 #include "map/data/windows/FrozenColumn.h"
 
-#include <QHeaderView>
+#include "map/data/windows/CaptionRow.h"
+
 #include <QScrollBar>
 
 FrozenColumn::FrozenColumn(QTableView& grid) : QTableView(&grid), grid_(grid) {
@@ -8,12 +9,11 @@ FrozenColumn::FrozenColumn(QTableView& grid) : QTableView(&grid), grid_(grid) {
     setFocusProxy(&grid);
     setFrameShape(QFrame::NoFrame);
     setStyleSheet(QStringLiteral("QTableView { border: none; }"));
+    setHorizontalHeader(new CaptionRow(this));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     verticalHeader()->hide();
-    horizontalHeader()->setSectionsClickable(true);
-    horizontalHeader()->setSortIndicatorShown(true);
     connect(grid.verticalScrollBar(), &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, grid.verticalScrollBar(), &QScrollBar::setValue);
 }
