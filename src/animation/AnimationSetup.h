@@ -5,6 +5,7 @@
 #include "report/ProjectPeriod.h"
 #include "stats/ReportParameters.h"
 
+#include <optional>
 #include <string>
 
 /// What the set-up of an animation shows of itself while it works. Without a window nothing is shown.
@@ -30,6 +31,10 @@ public:
     /// What the window starts with: the last animation of this project, else the days and hours of the report.
     AnimationSettings presets() const;
 
+    /// Frames and times that the settings come to, in words, or what is wrong with them; empty while they are not
+    /// complete.
+    std::string outline(const AnimationSettings& settings) const;
+
     /// Checks the settings, counts the frames unless the tables hold them already, and remembers what they stand for.
     /// True: the frames are there to be played, and FrameIntervalSeconds is set. False: the user knows why not, the
     /// form is enabled again and the map is as it was.
@@ -39,6 +44,7 @@ private:
     bool prepare(const AnimationSettings& settings, AnimationForm& form);
 
     ReportParameters parameters_;
+    std::optional<ProjectPeriod> project_;
     MapPeriods& periods_;
 };
 

@@ -5,12 +5,6 @@
 
 #include <cmath>
 
-bool isNumberCharacter(char32_t character) {
-    constexpr char32_t copy = 3, backspace = 8, carriageReturn = 13, paste = 22;
-    return (character >= U'0' && character <= U'9') || character == copy || character == backspace ||
-           character == carriageReturn || character == paste;
-}
-
 std::string framesFault(std::string_view text) {
     if (trimmedText(text).empty())
         return {};

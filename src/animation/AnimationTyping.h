@@ -3,10 +3,7 @@
 #include <string>
 #include <string_view>
 
-/// What may be typed into the lists of FrmAnimate.
-
-/// Whether a list of numbers takes a character: digits, backspace (8), return (13), copy (3) and paste (22).
-bool isNumberCharacter(char32_t character);
+/// What may be typed into the lists of FrmAnimate. Of keys, the lists of numbers take digits alone.
 
 /// Told where a list of numbers is given another character.
 inline constexpr const char* notNumeric = "Invalid character entered - only numeric values may be entered. Use the "
