@@ -45,6 +45,7 @@ void FrozenColumn::follow() {
             grid_.setColumnWidth(0, width);
         place();
     });
+    raise(); // above the captions of the grid
     place();
 }
 

@@ -105,6 +105,8 @@ TEST(DataGrid, TheAreaStaysInSightWhileTheFiguresScroll) {
     QTest::keyClick(&grid, Qt::Key_End);
     EXPECT_GT(grid.horizontalScrollBar()->value(), 0);
     EXPECT_EQ(areas->x(), grid.frameWidth());
+    for (const int height : {5, 40})
+        EXPECT_TRUE(areas->isAncestorOf(grid.childAt(20, height))) << "it stands above the grid at " << height;
     grid.setCurrentIndex(grid.model()->index(0, 1));
     EXPECT_GE(grid.visualRect(grid.currentIndex()).left(), areas->width()) << "not below the areas";
     grid.horizontalHeader()->resizeSection(0, 180);
