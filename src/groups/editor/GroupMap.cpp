@@ -159,15 +159,22 @@ void GroupMap::AddLabelLayer() {
     enableLabels();
 }
 
-/// Few and large areas are named in every layer; the many small ones in the layer of names alone.
+/// Few and large areas are named in every layer; the many small ones in the layer of names alone. Where that layer is
+/// drawn, one name of each area will do.
 void GroupMap::enableLabels() {
-    const int top = surface_.NumberOfLayers() - 1;
+    const int current = surface_.LayerIndex(), top = surface_.NumberOfLayers() - 1;
     const bool smallAreas = boundary().code != tvRegions;
-    for (int index = smallAreas ? top : 0; index <= top; ++index) {
+    for (int index = 0; index <= top; ++index) {
         surface_.setLayerIndex(index);
         for (Symbol& symbol : surface_.layer().symbols)
-            symbol.SymbolEnableLabels = true;
+            symbol.SymbolEnableLabels = index == top || (!smallAreas && surface_.MapScale() > namesShownUpTo);
     }
+    surface_.setLayerIndex(current);
+}
+
+void GroupMap::viewChanged() {
+    if (!building_ && groupLayerCount_ > 0)
+        enableLabels();
 }
 
 void GroupMap::redraw() {
@@ -186,7 +193,11 @@ void GroupMap::toolBarClicked(long tool) {
 }
 
 void GroupMap::mouseDown(int button) {
-    zoomOutPastWholeMap(surface_, button, wholeScale_);
+    if (!zoomOutPastWholeMap(surface_, button, wholeScale_))
+        return;
+    viewChanged();
+    if (surface_.needsDraw())
+        logAndGoOn([&] { surface_.DrawMap(); });
 }
 
 void GroupMap::end() {

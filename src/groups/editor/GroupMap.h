@@ -31,6 +31,8 @@ public:
 
     /// A button of the tool bar was pressed: 8 zooms to the whole of the lowest layer.
     void toolBarClicked(long tool);
+    /// The view has been moved or scaled and will be drawn: the names of large areas are shown once at every scale.
+    void viewChanged();
     /// A press of a button on the surface: zooming out past the whole map brings the whole map back.
     void mouseDown(int button);
     /// Deletes all layers but the lowest and lets go of the files.

@@ -99,10 +99,12 @@ QImage MapPainter::paintMoved(const QImage& picture, const Camera& from, const D
 
 void MapPainter::paintLayers(QImage& picture, const QRect& area, const DrawnMap& map, const MapStyle& style) {
     for (std::size_t i = 0; i < map.contents.size(); ++i) {
-        if (const LayerContent* content = map.inPicture(i)) {
+        if (const LayerContent* content = map.inPicture(i))
             paintShapes(picture, area, map.scene.layers[i], *content, map.camera, style);
+    }
+    for (std::size_t i = 0; i < map.contents.size(); ++i) { // no area covers the name of another
+        if (map.inPicture(i))
             labels_.paint(picture, area, i);
-        }
     }
 }
 

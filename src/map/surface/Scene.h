@@ -69,7 +69,7 @@ struct Layer {
     std::vector<Symbol> symbols = std::vector<Symbol>(1); ///< never empty
 };
 
-/// The layers of a map, drawn in this order: a later layer paints over an earlier one.
+/// The layers of a map, drawn in this order: a later layer paints over an earlier one. Labels stand above all areas.
 struct Scene {
     std::vector<Layer> layers = std::vector<Layer>(1); ///< never empty: layer 0 is the base layer
 };

@@ -136,10 +136,32 @@ TEST_F(GroupMapOnFile, ZoomingOutPastTheWholeMapBringsItBack) {
     EXPECT_DOUBLE_EQ(surface_.MapScale(), 20000) << "nor with another tool";
 }
 
-TEST_F(GroupMapOnFile, NamesOfSmallAreasLieInTheLayerOfNamesAlone) {
+TEST_F(GroupMapOnFile, LargeAreasAreNamedOnceAtEveryScale) {
     map_->CreateMap();
-    for (const Layer& each : surface_.scene().layers)
-        EXPECT_TRUE(each.symbols.back().SymbolEnableLabels) << each.LayerName;
+    const auto named = [&] {
+        std::string layers;
+        for (const Layer& each : surface_.scene().layers)
+            layers += each.symbols.back().SymbolEnableLabels && isDrawnAt(each, surface_.MapScale()) ? '1' : '0';
+        return layers;
+    };
+    EXPECT_EQ(named(), "0001");
+    surface_.setMapScale(23832);
+    map_->viewChanged();
+    EXPECT_EQ(named(), "1110");
+    EXPECT_EQ(surface_.LayerIndex(), 0);
+    map_->CreateMap();
+    EXPECT_EQ(named(), "1110");
+    surface_.setMapScale(23831);
+    map_->viewChanged();
+    EXPECT_EQ(named(), "0001");
+    surface_.setUIMode(MapTool::ZoomOut);
+    map_->mouseDown(1);
+    EXPECT_EQ(named(), "0001");
+    EXPECT_FALSE(surface_.needsDraw());
+}
+
+TEST_F(GroupMapOnFile, SmallAreasAreNamedFromNearAlone) {
+    map_->CreateMap();
     createVocabularyTable(*gdbSystem, DatabaseKind::SystemMap, "PNT_POSTCODEDISTRICTNAMES");
     addPolygon(*gdbSystem, "PGN_POSTCODEDISTRICT", 1, "LS1", square(0, 0, 100));
     gdbSystem->execute("INSERT INTO TblPostCodeDistrict (PostCodeDistrict) VALUES ('LS1')");
@@ -151,6 +173,9 @@ TEST_F(GroupMapOnFile, NamesOfSmallAreasLieInTheLayerOfNamesAlone) {
         EXPECT_FALSE(layer(at).symbols.back().SymbolEnableLabels) << layer(at).LayerName;
     EXPECT_TRUE(layer(3).symbols.back().SymbolEnableLabels);
     EXPECT_EQ(colourOfRegion('A'), land);
+    surface_.setMapScale(30000);
+    map_->viewChanged();
+    EXPECT_FALSE(layer(0).symbols.back().SymbolEnableLabels);
     EXPECT_EQ(installation_.logLines(), Rows{});
 }
 
