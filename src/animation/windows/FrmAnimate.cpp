@@ -127,7 +127,7 @@ QLayout* FrmAnimate::frameRows() {
     grid->setVerticalSpacing(gap);
     grid->addWidget(labelFor(CmbFrames, tr("&Number of frames"), choices_), 0, 0);
     grid->addWidget(CmbFrames, 0, 1);
-    grid->addWidget(labelFor(CmbInterval, tr("&Display interval for Frames (Seconds)"), choices_), 1, 0);
+    grid->addWidget(labelFor(CmbInterval, tr("Display &interval for Frames (Seconds)"), choices_), 1, 0);
     grid->addWidget(CmbInterval, 1, 1);
     grid->setColumnStretch(0, 1);
     for (NumberBox* box : {CmbFrames, CmbInterval})

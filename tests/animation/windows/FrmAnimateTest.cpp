@@ -85,6 +85,7 @@ TEST_F(SetUpWindow, ApplyCountsTheFramesAndLeaves) {
     EXPECT_EQ(find<DTPicker>("DTPicker1_1")->time(), QTime(11, 0)) << "the next time starts with what was chosen";
     EXPECT_EQ(textOf("CmbDataPeriod"), "1hr");
     EXPECT_EQ(textOf("CmbFrames"), "2");
+    EXPECT_EQ(textOf("CmbInterval"), "2");
 }
 
 TEST_F(SetUpWindow, WhatIsMissingIsAskedForInTurn) {
