@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,34 +38,45 @@ FrmData::FrmData(const DataTable& table, const WorkbookParameters& parameters, Q
     uctHeader1->setDetail(QString::fromStdString(table.title));
     uctHeader1->SetPicture(appIcon());
 
+    grdData->setObjectName(QStringLiteral("grdData"));
+    grdData->setAccessibleName(tr("Figures of the areas"));
+    makeSearch(static_cast<int>(table.rows.size()));
+    makeFooter();
+    arrange();
+    fitToScreen();
+}
+
+void FrmData::makeSearch(int areas) {
     txtFind->setObjectName(QStringLiteral("txtFind"));
     txtFind->setPlaceholderText(tr("Find an area"));
     txtFind->setAccessibleName(tr("Find an area"));
-    txtFind->setToolTip(tr("Goes to the area whose name begins with this text. Return goes to the next one."));
+    txtFind->setToolTip(tr("Goes to the area whose name begins with this text. Return goes to the next one. (Ctrl+F)"));
     txtFind->setClearButtonEnabled(true);
-    grdData->setObjectName(QStringLiteral("grdData"));
-    grdData->setAccessibleName(tr("Figures of the areas"));
-    const int areas = static_cast<int>(table.rows.size());
     areasText_ = areas == 1 ? tr("1 area")
                             : tr("%1 areas").arg(QLocale(QLocale::English, QLocale::UnitedKingdom).toString(areas));
     lblRows->setObjectName(QStringLiteral("lblRows"));
     lblRows->setProperty("role", "hint");
     lblRows->setText(areasText_);
 
+    auto* toFind = new QShortcut(QKeySequence::Find, this);
+    connect(toFind, &QShortcut::activated, txtFind, [this] {
+        txtFind->setFocus(Qt::ShortcutFocusReason);
+        txtFind->selectAll();
+    });
+    connect(txtFind, &QLineEdit::textChanged, this, [this] { find(false); });
+    connect(txtFind, &QLineEdit::returnPressed, this, [this] { find(true); });
+}
+
+void FrmData::makeFooter() {
     auto* lblExcel = new ucWebbyLink(tr("&Excel"), ucWebbyLink::Kind::Outlined, this);
     lblExcel->setObjectName(QStringLiteral("lblExcel"));
     lblExcel->setToolTip(tr("Output to excel"));
     uctFooter1->RegisterButton(lblExcel);
     uctFooter1->exitButton()->setObjectName(QStringLiteral("CmdClose"));
     uctFooter1->exitButton()->setText(tr("&Close"));
-    uctFooter1->exitButton()->setToolTip(tr("Unload this form"));
+    uctFooter1->exitButton()->setToolTip(tr("Close this window"));
     uctFooter1->exitButton()->setAutoDefault(false); // Return in the search must not close the window
     showParameters();
-    arrange();
-    fitToScreen();
-
-    connect(txtFind, &QLineEdit::textChanged, this, [this] { find(false); });
-    connect(txtFind, &QLineEdit::returnPressed, this, [this] { find(true); });
     connect(lblExcel, &ucWebbyLink::clicked, this, &FrmData::CmdExcel_Click);
     connect(uctFooter1->exitButton(), &QPushButton::clicked, this, &QDialog::accept);
 }

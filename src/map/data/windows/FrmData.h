@@ -25,6 +25,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    void makeSearch(int areas);
+    void makeFooter();
     void arrange();
     void showParameters();
     void fitToScreen();

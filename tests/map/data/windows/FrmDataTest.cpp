@@ -78,6 +78,10 @@ TEST(FrmData, ShowsTheAreasAndFindsThemByName) {
     EXPECT_EQ(rows->text(), "No area has this name");
     search->clear();
     EXPECT_EQ(rows->text(), "2,800 areas");
+    grid->setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(grid, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(search->hasFocus());
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
     window.show();
