@@ -108,7 +108,9 @@ std::optional<std::string> GroupEditor::areaClicked(long EntityID) const {
                    ->value(0)
                    .asText();
     });
-    if (name && isIreland(*name)) {
+    if (!name || trimmedText(*name).empty())
+        return std::nullopt;
+    if (isIreland(*name)) {
         showMessage("This area cannot be included in a Customer Group");
         return std::nullopt;
     }
@@ -141,7 +143,7 @@ std::vector<std::string> GroupEditor::areasDrawn(GroupAction action, const std::
                 all.push_back(rows->value("NAME").asText());
         });
     for (const std::string& name : all) {
-        if (isCallArea(trimmedText(name)))
+        if (trimmedText(name).empty() || isCallArea(trimmedText(name)))
             continue;
         if (isIreland(name))
             showMessage("Republic Of Ireland is not valid for use in Customer Groups");

@@ -92,6 +92,8 @@ TEST_F(Areas, AClickNeedsAnAreaAndAGroup) {
     EXPECT_EQ(prompts_.texts.back(), "This area cannot be included in a Customer Group");
     EXPECT_EQ(editor_->areaClicked(99), std::nullopt);
     EXPECT_EQ(installation_.logLinesWith("frmGroups_MapSurface1_MapEntityInfo"), 1);
+    addPolygon(*gdbSystem, "PGN_TV", 98, " ", square(0, 0, 10));
+    EXPECT_EQ(editor_->areaClicked(98), std::nullopt) << "without a name";
     addPolygon(*gdbSystem, "PGN_CSG", 2, "0113", square(0, 0, 10));
     addPolygon(*gdbSystem, "PGN_POSTCODEDISTRICT", 2, "LS1", square(0, 0, 10));
     editor_->DataType = 1;

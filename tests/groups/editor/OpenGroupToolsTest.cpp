@@ -36,6 +36,7 @@ protected:
 
 TEST_F(OpenTools, WithoutChangesNothingIsAsked) {
     setUpTwoGroups();
+    AddChangedGroup("LEFT OVER");
     EXPECT_EQ(open(), 0);
     EXPECT_EQ(dataType_, 2);
     EXPECT_EQ(prompts_.texts, Rows{});
