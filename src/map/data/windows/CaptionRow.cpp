@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int markMargin = 7;
+constexpr int markMargin = 6;
 constexpr QSizeF markSize(8, 5);
 
 } // namespace

@@ -22,7 +22,7 @@ namespace {
 constexpr int lineHeight = 26;
 constexpr int leastColumn = 64, leastAreaColumn = 130;
 constexpr int widerForRates = 20;
-constexpr int cellMargin = 8, gridLine = 2, captionPadding = 28; ///< of a caption with the mark of sorting
+constexpr int cellMargin = 8, gridLine = 2, captionPadding = 26; ///< of a caption with the mark of sorting
 
 /// Draws a cell with air beside its text, in a colour of its own where the grid is sorted by its column.
 class CellDelegate : public QStyledItemDelegate {
