@@ -78,8 +78,10 @@ TEST_F(GroupList, EitherCancelLeavesNothingBehind) {
 
 TEST_F(GroupList, A129thGroupIsRefusedByTheList) {
     enter(2);
+    WorkspaceTransaction adding(*defaultWorkspace());
     for (int group = 0; group < 128; ++group)
         add({"G" + std::to_string(group)});
+    adding.commit();
     EXPECT_EQ(editor_->groups()[32].colour, editor_->groups()[0].colour);
     prompts_.questions.clear();
     EXPECT_FALSE(editor_->addGroup());
