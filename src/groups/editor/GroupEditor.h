@@ -43,8 +43,8 @@ struct SaveDisplay {
 /// ModData_CopyGroupsFromProject has made; nothing reaches the master copies before save(), but for deleteAll().
 ///
 /// Questions and messages go through prompts(). Statements that fail are logged and passed over; a change that could
-/// not be written leaves ChangedGroups as it was. The window reads groups(), selected() and the three can...() after
-/// every call. Main thread.
+/// not be written leaves ChangedGroups as it was. The window reads groups(), selected(), canSave() and canDelete()
+/// after every call. Main thread.
 class GroupEditor {
 public:
     /// Begins on tables just made, with nothing to save: reads the list. `type` becomes DataType.
