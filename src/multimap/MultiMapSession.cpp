@@ -15,6 +15,7 @@
 #include "stats/SelectionState.h"
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -73,6 +74,10 @@ void MultiMapSession::CreateMap(int mapIndex) {
     if (!isOnShow(mapIndex))
         return;
     IndexedMap& map = at(mapIndex);
+    if (std::exchange(map.reload, false)) {
+        map.form.extentCaptured = false;
+        map.form.keepView = true;
+    }
     const bool fits = !map.form.extentCaptured;
     const QSize size = map.surface->camera().pixelSize();
     // A shared view of another window size would not be the whole map in this one.
@@ -156,13 +161,8 @@ void MultiMapSession::toolBarClicked(int mapIndex, long tool) {
 }
 
 void MultiMapSession::drawFinished(int mapIndex) {
-    if (!isOnShow(mapIndex) || !at(mapIndex).reload)
-        return;
-    IndexedMap& map = at(mapIndex);
-    map.reload = false;
-    map.form.extentCaptured = false;
-    map.form.keepView = true;
-    CreateMap(mapIndex);
+    if (at(mapIndex).reload)
+        CreateMap(mapIndex);
 }
 
 void MultiMapSession::alignMaps() {

@@ -91,6 +91,24 @@ TEST_F(FrmMultiMapTest, MapsFillTheWindowWithoutCoveringEachOther) {
     EXPECT_GT(placeOf("MapSurface1", 4).top(), placeOf("fraOtherCallAreas", 1).bottom());
 }
 
+TEST_F(FrmMultiMapTest, TabGoesFromTheListThroughTheMapsToTheFoot) {
+    show(tvRegions, 0);
+    QStringList names;
+    const QWidget* const first = control("cmbMapType");
+    const QWidget* at = first;
+    do {
+        if (at->isVisible() && (at->focusPolicy() & Qt::TabFocus))
+            names.append(at->objectName());
+        at = at->nextInFocusChain();
+    } while (at != first);
+    qsizetype last = -1;
+    for (const char* name : {"cmbMapType", "MapKey1", "ucwlMobileText_1", "ucwlOtherText_2", "CmdExcel"}) {
+        const qsizetype place = names.indexOf(QLatin1String(name));
+        EXPECT_GT(place, last) << name << " in " << names.join(QLatin1Char(' ')).toStdString();
+        last = place;
+    }
+}
+
 TEST_F(FrmMultiMapTest, NothingCanBeChosenWhileMapsAreDrawn) {
     struct Watching : Progress {
         explicit Watching(std::function<void()> look) : look_(std::move(look)) { setProgress(this); }

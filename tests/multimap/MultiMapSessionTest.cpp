@@ -137,6 +137,12 @@ TEST_F(MultiMapSessionTest, ZoomExtentBringsAMapBackToTheViewOfTheOthers) {
     EXPECT_TRUE(session_.mapsFinished());
 
     surface(2).setMapScale(5'000);
+    session_.toolBarClicked(2, static_cast<long>(MapTool::ZoomToExtent));
+    session_.changeMapType(2);
+    EXPECT_EQ(surface(2).drawn().camera, whole) << "all maps were built before its draw had ended";
+    EXPECT_TRUE(session_.mapsFinished());
+
+    surface(2).setMapScale(5'000);
     surface(2).setPixelSize({500, 300});
     session_.toolBarClicked(2, static_cast<long>(MapTool::ZoomToExtent));
     session_.drawFinished(2);

@@ -48,7 +48,8 @@ void LabelPainter::placeLayer(const Layer& layer, const LayerContent& content, c
 }
 
 LabelFace& LabelPainter::faceOf(const Symbol& symbol, const MapStyle& style) {
-    const LabelFont& font = symbol.SymbolLabelFont;
+    LabelFont font = symbol.SymbolLabelFont;
+    font.size *= style.labelScale;
     const std::string key = font.family + '\n' + shortestText(font.size) + '\n' +
                             std::to_string(symbol.SymbolLabelColor) + '\n' + std::to_string(style.halo.rgba()) + '\n' +
                             shortestText(style.devicePixelRatio);

@@ -34,6 +34,7 @@ namespace {
 
 constexpr int gap = 8, sideWidth = 216;
 constexpr int mapsInRowOfSix = 3, mapsInRow = 2;
+constexpr double smallLabels = 0.75; ///< on maps in two rows, or they would hide the colours
 
 QString toQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
@@ -42,10 +43,10 @@ QString toQString(std::string_view text) {
 } // namespace
 
 FrmMultiMap::FrmMultiMap(QWidget* parent)
-    : QWidget(parent, Qt::Window), ReportArea(new QScrollArea(this)), sheet_(new QWidget), panes_(makePanes()),
+    : QWidget(parent, Qt::Window), ucwbKey(new ucWebbyBorder(this)), cmbMapType(new QComboBox(ucwbKey)),
+      ReportArea(new QScrollArea(this)), sheet_(new QWidget(ReportArea)), panes_(makePanes()),
       mapKey1_(panes_[0]->MapSurface1()->surface()), session_(surfaces(), mapKey1_), uctHeader1(new uctHeader(this)),
-      uctFooter1(new uctFooter(this)), ucwbKey(new ucWebbyBorder(this)), cmbMapType(new QComboBox(ucwbKey)),
-      keyView_(new MapKeyView(mapKey1_, ucwbKey)), lblParameters(new QLabel(ucwbKey)) {
+      uctFooter1(new uctFooter(this)), keyView_(new MapKeyView(mapKey1_, ucwbKey)), lblParameters(new QLabel(ucwbKey)) {
     setObjectName(QStringLiteral("FrmMultiMap"));
     setWindowTitle(QStringLiteral("Ostel Callscope Mapping v") + QString::fromStdString(gsVersion));
     setWindowIcon(appIcon());
@@ -55,6 +56,7 @@ FrmMultiMap::FrmMultiMap(QWidget* parent)
         cmbMapType->addItem(toQString(entry.text), static_cast<qlonglong>(entry.code));
     makeReportArea();
     arrange();
+    setTabOrder(cmbMapType, keyView_);
     connect(cmbMapType, &QComboBox::activated, this, &FrmMultiMap::cmbMapType_Click);
     connect(alignMaps_, &ucWebbyLink::clicked, this, &FrmMultiMap::alignMaps_Click);
     connect(CmdExcel, &ucWebbyLink::clicked, this, &FrmMultiMap::CmdExcel_Click);
@@ -198,6 +200,7 @@ void FrmMultiMap::arrangeMaps() {
         grid->addWidget(pane(n), (n - 1) / columns, (n - 1) % columns);
         grid->setColumnStretch((n - 1) % columns, 1);
         pane(n)->showPeriod(QString::fromStdString(session_.period(n)));
+        MapSurface1(n)->surface().style.labelScale = session_.count() > mapsInRow ? smallLabels : 1.0;
         MapSurface1(n)->surface().setUIMode(MapTool::Information);
         pane(n)->fraOtherCallAreas()->show();
     }

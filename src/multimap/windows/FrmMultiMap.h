@@ -71,6 +71,9 @@ private:
     QString title() const;
     bool allInView() const;
 
+    // In the order in which Tab goes through them.
+    ucWebbyBorder* ucwbKey;
+    QComboBox* cmbMapType;
     QScrollArea* ReportArea;
     QWidget* sheet_; ///< of the maps, which the area scrolls
     std::array<MapPane*, MultiMapSession::mostMaps> panes_;
@@ -79,8 +82,6 @@ private:
 
     uctHeader* uctHeader1;
     uctFooter* uctFooter1;
-    ucWebbyBorder* ucwbKey;
-    QComboBox* cmbMapType;
     MapKeyView* keyView_;
     QLabel* lblParameters;
     ucWebbyLink* CmdExcel = nullptr;

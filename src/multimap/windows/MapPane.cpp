@@ -12,8 +12,8 @@ namespace {
 constexpr int gap = 4;
 constexpr QSize smallestMap{288, 180}; ///< on which regions can still be told apart
 constexpr const char* toolBar =
-    ":BUTTON_VISIBLE:1,1,1,1,0,1,0,0,0,0,0,0,0,1,:TOOLTIPS:Zoom Extent,Pan,Zoom In,Zoom "
-    "Out,Measure,Information,Information,Circle Query,Draw Point,Draw Polyline,Draw Polygon,Draw Circle,Hide "
+    ":BUTTON_VISIBLE:1,1,1,1,0,1,0,0,0,0,0,0,0,0,:TOOLTIPS:Zoom Extent,Pan,Zoom In,Zoom "
+    "Out,Measure,Information,Polygon Query,Circle Query,Draw Point,Draw Polyline,Draw Polygon,Draw Circle,Hide "
     "Toolbar,Go Back,";
 
 } // namespace

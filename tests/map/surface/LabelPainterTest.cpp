@@ -52,9 +52,9 @@ struct NamedPoints {
         map.camera.setScale(scale);
         map.camera.setCenter(center);
     }
-    std::vector<QRectF> boxes() const {
+    std::vector<QRectF> boxes(const MapStyle& style = MapStyle()) const {
         LabelPainter painter;
-        painter.place(map, PixelFrame(map.camera), MapStyle());
+        painter.place(map, PixelFrame(map.camera), style);
         return painter.boxes(0);
     }
 };
@@ -74,6 +74,15 @@ TEST(LabelPainter, NamesThatCollideAreDroppedAndThoseThatDoNotStand) {
 
     names.map.scene.layers[0].LayerCheckForOverlap = false;
     EXPECT_EQ(names.boxes().size(), 4u);
+}
+
+TEST(LabelPainter, SmallerLabelsLeaveRoomForMore) {
+    NamedPoints names;
+    names.addCrowd();
+    const std::vector<QRectF> full = names.boxes();
+    const std::vector<QRectF> small = names.boxes({.labelScale = 0.5});
+    EXPECT_NEAR(small[0].height(), full[0].height() / 2, 2.0);
+    EXPECT_GT(small.size(), full.size());
 }
 
 TEST(LabelPainter, ABoxHoldsItsWholeText) {
