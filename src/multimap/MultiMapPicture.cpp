@@ -1,7 +1,8 @@
 #include "multimap/MultiMapPicture.h"
 
+#include "core/ModDeclarations.h"
 #include "map/surface/MapKey.h"
-#include "ui/Skin.h"
+#include "ui/cColours_CS.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -44,12 +45,13 @@ void paintSide(QPainter& painter, const MultiMapPicture& picture, const MapKey& 
 }
 
 void paintBars(QPainter& painter, const MapOfPicture& map) {
-    const cColours_CS colours = skinColours();
+    const cColours_CS colours = gColours ? *gColours : cColours_CS();
     const QFontMetricsF metrics(painter.font());
     QPointF at(map.map.left(), map.map.bottom() + barGap);
     for (const CallTypeBar& bar : map.bars) {
         painter.setPen(barLine);
-        painter.setBrush(bar.band ? toColor(colours.MapColour(static_cast<int>(*bar.band))) : QColor(Qt::white));
+        painter.setBrush(bar.band ? QColor::fromRgb(colours.MapColour(static_cast<int>(*bar.band)))
+                                  : QColor(Qt::white));
         painter.drawRect(QRectF(at.x() + 0.5, at.y() + 0.5, barWidth, barHeight));
         at.rx() += barWidth + barGap;
         const QString name = QString::fromUtf8(bar.name.data(), static_cast<qsizetype>(bar.name.size()));
