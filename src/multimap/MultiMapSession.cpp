@@ -110,15 +110,18 @@ void MultiMapSession::changeMapType(long mapType) {
 }
 
 void MultiMapSession::ApplyValues(int mapIndex, Recordset& values) {
-    thematic(mapIndex).ApplyValues(values);
+    if (isOnShow(mapIndex))
+        thematic(mapIndex).ApplyValues(values);
 }
 
 void MultiMapSession::AddLabelLayer(int mapIndex) {
-    thematic(mapIndex).AddLabelLayer(boundary_);
+    if (isOnShow(mapIndex))
+        thematic(mapIndex).AddLabelLayer(boundary_);
 }
 
 void MultiMapSession::ClearMap(int mapIndex) {
-    thematic(mapIndex).ClearMap();
+    if (isOnShow(mapIndex))
+        thematic(mapIndex).ClearMap();
 }
 
 void MultiMapSession::clicked(int mapIndex) {

@@ -60,6 +60,7 @@ TEST_F(MultiMapSessionTest, TwoMapsNeverTouchTheOthers) {
         session_.toolBarClicked(n, static_cast<long>(MapTool::ZoomToExtent));
         session_.drawFinished(n);
         session_.viewChanged(n);
+        session_.AddLabelLayer(n);
         EXPECT_TRUE(surface(n).picture().isNull()) << n;
         EXPECT_EQ(surface(n).NumberOfLayers(), 1) << n;
         EXPECT_FALSE(session_.callType(n, "Mobile").detail.has_value()) << n;
