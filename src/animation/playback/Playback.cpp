@@ -12,7 +12,6 @@
 #include "stats/SelectionState.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -28,9 +27,11 @@ std::string reportTable(long boundary) {
     return FilterActive ? "TblSelectedDataForPostCodeDistrict" : "TblPostCodeDistrict";
 }
 
-std::string timeText(Date time) {
-    const double ofDay = time.days - std::floor(time.days);
-    return ofDay == 0.0 ? "00:00:00" : Value(Date{ofDay}).asText();
+/// "20:00", to the minute.
+std::string hourText(Date time) {
+    const DateParts parts = partsOf(time);
+    std::string text = std::to_string(parts.hour * 100 + parts.minute + 10000).substr(1);
+    return text.insert(2, ":");
 }
 
 void useOnly(long boundary, const std::string& table) {
@@ -234,9 +235,9 @@ std::string Playback::frameText() const {
         return {};
     const MapPeriods& periods = form_.periods;
     const std::string from = Value(periods.MapStartDate[at]).asText(), to = Value(periods.MapEndDate[at]).asText();
-    return std::to_string(shownFrame_) + " of " + std::to_string(FrameCount) + ": " + from + ", " +
-           timeText(periods.MapStartTime[at]) + " to " + (to == from ? "" : to + ", ") +
-           timeText(periods.MapEndTime[at]);
+    return std::to_string(shownFrame_) + " of " + std::to_string(FrameCount) + ": " + from + " " +
+           hourText(periods.MapStartTime[at]) + " to " + (to == from ? "" : to + " ") +
+           hourText(periods.MapEndTime[at]);
 }
 
 void Playback::tellChange() const {

@@ -53,7 +53,7 @@ public:
     int shownFrame() const { return shownFrame_; } ///< from 1; 0 while nothing is animated
     /// The period of the table in use that the map shows; 1 for a map that is not animated.
     int dataSet() const { return MapPeriod_; }
-    /// "3 of 10: 01/03/2025, 20:00:00 to 21:00:00"; empty while nothing is animated.
+    /// "3 of 10: 01/03/2025 20:00 to 21:00"; empty while nothing is animated.
     std::string frameText() const;
 
 private:

@@ -12,7 +12,7 @@ TEST_F(PlaybackTest, SetUpFramesComeUpAtTheFirst) {
     EXPECT_EQ(shown(), "100");
     EXPECT_EQ(form.LblStatusValue[0], "02/01/2025");
     EXPECT_EQ(form.LblStatusValue[3], "01:00:00");
-    EXPECT_EQ(playback.frameText(), "1 of 4: 02/01/2025, 00:00:00 to 01:00:00");
+    EXPECT_EQ(playback.frameText(), "1 of 4: 02/01/2025 00:00 to 01:00");
     EXPECT_TRUE(form.AnimationActive);
 }
 

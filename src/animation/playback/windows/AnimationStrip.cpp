@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QSignalBlocker>
 #include <QSlider>
 
@@ -18,7 +19,9 @@
 namespace {
 
 constexpr int gap = 8;
-constexpr int frameBarWidth = 120, speedBarWidth = 88;
+constexpr int frameBarWidth = 136, narrowBarWidth = 56, speedBarWidth = 88;
+constexpr int leastWidth = 496;     ///< of the row, without its captions
+constexpr int narrowWidth = 680;    ///< below it the captions make room for the controls
 constexpr int longestInterval = 30; ///< seconds
 constexpr int firstInterval = 2;
 constexpr int millisecondsOfSecond = 1000;
@@ -42,7 +45,7 @@ void tip(QWidget& control, const QString& text) {
 } // namespace
 
 AnimationStrip::AnimationStrip(Playback& playback, QWidget* parent)
-    : QWidget(parent), playback_(playback), CmdSetUp(new QPushButton(tr("Set &Up..."), this)),
+    : QWidget(parent), playback_(playback), CmdSetUp(new QPushButton(tr("Animatio&n..."), this)),
       Label1(new QLabel(tr("Frame"), this)), HScroll1(new QSlider(Qt::Horizontal, this)),
       frameText_(new ElidedLabel(this)), CmdPause(new QPushButton(this)),
       cmdStopAnimate(new QPushButton(tr("S&top"), this)), Label2(new QLabel(tr("Speed"), this)),
@@ -62,9 +65,10 @@ void AnimationStrip::makeControls() {
     HScroll2->setRange(1, longestInterval);
     HScroll2->setPageStep(firstInterval);
     HScroll2->setValue(firstInterval);
-    HScroll1->setMinimumWidth(frameBarWidth / 2);
-    HScroll1->setMaximumWidth(2 * frameBarWidth);
-    HScroll2->setFixedWidth(speedBarWidth);
+    HScroll1->setMinimumWidth(narrowBarWidth);
+    HScroll1->setMaximumWidth(frameBarWidth);
+    HScroll2->setMinimumWidth(narrowBarWidth);
+    HScroll2->setMaximumWidth(speedBarWidth);
     // The caption changes and the row does not.
     int width = 0;
     for (const QString& caption : {tr("Pau&se"), tr("&Animate")}) {
@@ -72,7 +76,6 @@ void AnimationStrip::makeControls() {
         width = std::max(width, CmdPause->sizeHint().width());
     }
     CmdPause->setMinimumWidth(width);
-    CmdPause->setProperty("kind", "primary");
     Label4->setMinimumWidth(Label4->fontMetrics().horizontalAdvance(secondsText(longestInterval)));
 }
 
@@ -100,7 +103,7 @@ void AnimationStrip::arrange() {
     row->addSpacing(gap);
     row->addWidget(Label1);
     row->addWidget(HScroll1, 1);
-    row->addWidget(frameText_, 2);
+    row->addWidget(frameText_, 2); // the bar keeps its width when buttons come and go
     row->addWidget(CmdPause);
     row->addWidget(cmdStopAnimate);
     row->addSpacing(gap);
@@ -214,7 +217,17 @@ void AnimationStrip::enableControls() {
     tell(*HScroll1, active ? tr("Step through the frames") : tr("Set up an animation first"));
     tell(*CmdPause, playing ? tr("Stay at this frame") : tr("Play the frames, over and over"));
     tell(*cmdStopAnimate, tr("Back to the map of the report"));
-    tell(*HScroll2, tr("For how long each frame is shown"));
+    tell(*HScroll2, tr("Each frame is shown for %1 s").arg(HScroll2->value()));
     for (QLabel* label : {Label1, Label2, Label4, static_cast<QLabel*>(frameText_)})
         label->setEnabled(why.isEmpty());
+}
+
+void AnimationStrip::resizeEvent(QResizeEvent* event) {
+    for (QLabel* label : {Label1, Label2, Label4})
+        label->setVisible(width() >= narrowWidth);
+    QWidget::resizeEvent(event);
+}
+
+QSize AnimationStrip::minimumSizeHint() const {
+    return {leastWidth, QWidget::minimumSizeHint().height()};
 }

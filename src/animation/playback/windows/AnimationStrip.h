@@ -24,10 +24,15 @@ public:
     /// The window is at work: nothing can be used. The building of a frame is no such work; it can be paused.
     void setWorking(bool working);
 
+    QSize minimumSizeHint() const override;
+
 signals:
     void setUpRequested();
     /// Another frame or state: what the window shows of the map, and which of its lists can be used, must follow.
     void playbackChanged();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeControls();

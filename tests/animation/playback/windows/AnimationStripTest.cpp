@@ -3,10 +3,8 @@
 #include "tests/animation/playback/AnimatedMap.h"
 #include "ui/Skin.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -103,7 +101,7 @@ TEST_F(AnimationStripTest, PlaysPausesStepsAndStops) {
     bar("HScroll1")->setFocus();
     QTest::keyClick(bar("HScroll1"), Qt::Key_Left);
     EXPECT_EQ(shown(), "200");
-    EXPECT_EQ(strip.findChild<QLabel*>("lblFrame")->text(), "2 of 3: 02/01/2025, 01:00:00 to 02:00:00");
+    EXPECT_EQ(strip.findChild<QLabel*>("lblFrame")->text(), "2 of 3: 02/01/2025 01:00 to 02:00");
 
     const auto before = changes.count();
     click("cmdStopAnimate");
@@ -179,15 +177,33 @@ TEST_F(AnimationStripTest, TheKeyboardStaysOnTheStrip) {
 }
 
 TEST_F(AnimationStripTest, TheRowFitsASmallWindowAndDoesNotJump) {
-    const int height = strip.sizeHint().height();
-    EXPECT_LE(strip.minimumSizeHint().width(), 980);
+    const int height = strip.sizeHint().height(), barWidth = bar("HScroll1")->width();
     setUp(10);
-    EXPECT_LE(strip.minimumSizeHint().width(), 800);
+    QCoreApplication::processEvents();
     EXPECT_EQ(strip.sizeHint().height(), height);
+    EXPECT_EQ(bar("HScroll1")->width(), barWidth);
     const int width = button("CmdPause")->width();
     click("CmdPause");
     QCoreApplication::processEvents();
     EXPECT_EQ(button("CmdPause")->width(), width);
+
+    strip.resize(strip.minimumSizeHint().width(), height);
+    QCoreApplication::processEvents();
+    int end = 0;
+    for (const char* name : {"CmdSetUp", "HScroll1", "lblFrame", "CmdPause", "cmdStopAnimate", "HScroll2"}) {
+        const auto* control = strip.findChild<QWidget*>(name);
+        EXPECT_GE(control->x(), end) << name;
+        EXPECT_GE(control->width(), control->minimumSizeHint().width()) << name;
+        end = control->x() + control->width();
+    }
+    EXPECT_LE(end, strip.width());
+}
+
+TEST_F(AnimationStripTest, AFrameThatPassesMidnightNamesBothDays) {
+    frames.MapEndDate[2] = parseDate("03/01/2025");
+    setUp(3);
+    playback.showFrame(2);
+    EXPECT_EQ(strip.findChild<QLabel*>("lblFrame")->text(), "2 of 3: 02/01/2025 01:00 to 03/01/2025 02:00");
 }
 
 } // namespace
