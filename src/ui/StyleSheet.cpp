@@ -67,6 +67,15 @@ QProgressBar { background: <grey3>; border: none; border-radius: 4px; min-height
 QProgressBar::chunk { background: <indigo5>; border-radius: 4px; }
 QProgressBar::chunk:disabled { background: <grey4>; }
 
+QSlider { min-height: 24px; }
+QSlider::groove:horizontal { background: <grey3>; height: 4px; border-radius: 2px; }
+QSlider::sub-page:horizontal { background: <indigo5>; border-radius: 2px; }
+QSlider::handle:horizontal { background: white; border: 2px solid <indigo5>; width: 12px; margin: -6px 0; border-radius: 8px; }
+QSlider::handle:horizontal:hover { background: <indigo2>; }
+QSlider::handle:horizontal:focus { border-color: <turquoise5>; }
+QSlider::sub-page:horizontal:disabled { background: <grey3>; }
+QSlider::handle:horizontal:disabled { background: <grey2>; border-color: <grey4>; }
+
 QToolTip { background: white; color: <grey6>; border: 1px solid <grey3>; padding: 4px; }
 
 QScrollBar:vertical { background: transparent; width: 12px; margin: 2px; }

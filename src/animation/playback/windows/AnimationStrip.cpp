@@ -185,7 +185,6 @@ void AnimationStrip::follow() {
     // A bar that is being dragged is the user's.
     if (!HScroll1->isSliderDown())
         setQuietly(*HScroll1, std::max(playback_.shownFrame() - 1, 0));
-    frameText_->setText(active ? QString::fromStdString(playback_.frameText()) : tr("No frames are set up"));
     Label4->setText(secondsText(HScroll2->value()));
     const bool appears = active && CmdPause->isHidden();
     CmdPause->setText(playing ? tr("Pau&se") : tr("&Animate"));
@@ -211,6 +210,8 @@ void AnimationStrip::enableControls() {
     CmdPause->setEnabled(possible);
     cmdStopAnimate->setEnabled(possible);
     HScroll2->setEnabled(possible);
+    const QString still = why.isEmpty() ? tr("No frames are set up") : why;
+    frameText_->setText(active ? QString::fromStdString(playback_.frameText()) : still);
     const auto tell = [&](QWidget& control, const QString& text) { tip(control, why.isEmpty() ? text : why); };
     tell(*CmdSetUp, playing ? tr("Pause or stop the animation first")
                             : tr("Choose time frames of this map and count their calls"));

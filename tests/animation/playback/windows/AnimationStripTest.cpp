@@ -67,6 +67,8 @@ TEST_F(AnimationStripTest, WhatCannotBeAnimatedSaysWhy) {
         strip.setMap(boundary, 1);
         allOff("Only maps of TV regions and post code districts can be animated");
     }
+    playback.stop();
+    EXPECT_TRUE(strip.findChild<QLabel*>("lblFrame")->text().startsWith("Only maps of")) << "to be read at once";
     strip.setMap(animatedTVRegions, 8);
     allOff("Average calls per caller cannot be animated");
     strip.setMap(animatedTVRegions, 1);
