@@ -228,4 +228,31 @@ TEST_F(PlaybackTest, AFrameWhoseTableIsGoneIsLoggedAndTheNextOneFollows) {
     EXPECT_EQ(playback.state(), Playback::State::Playing);
 }
 
+/// Only notes what is built.
+class PostCodePlaybackTest : public AnimatedMap {
+protected:
+    void build(long, int dataSet) override {
+        builds.push_back(currentTables.TV + currentTables.PostCodeDistrict + "/" + std::to_string(dataSet));
+    }
+};
+
+TEST_F(PostCodePlaybackTest, DistrictsHaveTablesOfTheirOwn) {
+    createVocabularyTable(*gdbSystem, DatabaseKind::SystemMap, "TblPostCodeDistrict");
+    for (const bool filtered : {false, true}) {
+        FilterActive = filtered;
+        currentTables.clear();
+        currentTables.PostCodeDistrict = "TblAnimatedPostCodeDistrict1";
+        FrameCount = 6;
+        builds.clear();
+        playback.framesReady();
+        playback.showFrame(5);
+        playback.showFrame(6);
+        playback.stop();
+        EXPECT_EQ(builds, (Builds{"TblAnimatedPostCodeDistrict1/1", "TblAnimatedPostCodeDistrict1/5",
+                                  "TblAnimatedPostCodeDistrict2/1",
+                                  filtered ? "TblSelectedDataForPostCodeDistrict/1" : "TblPostCodeDistrict/1"}));
+    }
+    EXPECT_EQ(smallMap.installation.logLines(), std::vector<std::string>{});
+}
+
 } // namespace
