@@ -23,10 +23,15 @@ constexpr double sharpness = 3; // pixels of a printed picture for one of the sc
 constexpr double workbookSharpness = 1;
 constexpr double marginMillimetres = 12;
 
+/// Hidden by the window; controls of a surface that has not been shown yet count.
+bool leftOut(const QWidget& control) {
+    return control.isWindow() || (control.isHidden() && control.testAttribute(Qt::WA_WState_ExplicitShowHide));
+}
+
 void addBlocks(const QWidget& parent, const QWidget& content, std::vector<ReportBlock>& blocks, int room) {
     for (const QObject* child : parent.children()) {
         const auto* control = qobject_cast<const QWidget*>(child);
-        if (!control || control->isHidden() || control->isWindow())
+        if (!control || leftOut(*control))
             continue;
         const int top = control->mapTo(&content, QPoint(0, 0)).y();
         blocks.push_back({top, top + control->height()});
@@ -97,7 +102,7 @@ QSize ucReportArea::sizeOfControls() const {
     QRect all;
     for (const QObject* child : content()->children()) {
         const auto* control = qobject_cast<const QWidget*>(child);
-        if (control && !control->isHidden() && !control->isWindow())
+        if (control && !leftOut(*control))
             all |= control->geometry();
     }
     return all.isNull() ? QSize(0, 0) : QSize(all.right() + 1, all.bottom() + 1);
