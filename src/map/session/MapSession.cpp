@@ -5,11 +5,15 @@
 #include "core/Prompts.h"
 #include "core/cPathControl.h"
 #include "data/project/Databases.h"
+#include "groups/AccountGroups.h"
 #include "groups/ChangedGroups.h"
+#include "groups/editor/BoundaryAfterGroups.h"
+#include "groups/editor/OpenGroupTools.h"
 #include "map/Boundaries.h"
 #include "map/ClassBreaks.h"
 #include "map/MapMeasures.h"
 #include "map/WholeMap.h"
+#include "map/data/MapData.h"
 #include "map/form/LabelRule.h"
 #include "map/spend/CampaignSpend.h"
 #include "map/surface/MapKey.h"
@@ -28,7 +32,7 @@ namespace {
 constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 constexpr long averageCalls = 8;
 constexpr int dataSet = 1;
-constexpr double pieScale = 80000;       ///< from which width on the pie stands over sea
+constexpr double pieScale = 80000; ///< from which width on the pie stands over sea
 
 std::string emptyMapPath() {
     return joinPath(gPaths ? gPaths->ApplicationDataPath : std::string(), "EmptyMap.bin");
@@ -156,6 +160,25 @@ void MapSession::setDensities(bool on) {
     chargeAreas();
 }
 
+std::optional<long> MapSession::openGroupTools() {
+    long type = 0;
+    const long result = OpenGroupTools(fraSaveStatus, lblSaveStatus, lblGroupStatus, type);
+    if (result == -1)
+        showMessage("Could not update Customer Groups");
+    if (result != 0)
+        return std::nullopt;
+    deleteUpperLayers(surface_);
+    return type;
+}
+
+void MapSession::groupToolsClosed() {
+    bool groups = false;
+    logAndGoOn([&] { groups = accountHasGroups(); });
+    const BoundaryAfterGroups after = boundaryAfterGroups(groups, gsBoundaryType);
+    if (!changeBoundary(after.boundary) && after.boundary != tvRegions)
+        changeBoundary(tvRegions);
+}
+
 /// A table that was counted anew knows nothing of the campaign.
 void MapSession::chargeAreas() {
     if (updateCostPerCallStats(boundary_, dataSet))
@@ -209,6 +232,10 @@ void MapSession::end() {
     deleteUpperLayers(surface_);
     surface_.CloseLayerSource(0);
     form.closeRequested = false;
+}
+
+DataView MapSession::dataView() const {
+    return ::dataView(boundary_, dataSet, densities_);
 }
 
 std::optional<MapTotals> MapSession::totals() const {

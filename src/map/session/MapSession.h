@@ -6,6 +6,7 @@
 #include "map/ThematicMap.h"
 #include "map/calltypes/CallTypeBands.h"
 #include "map/calltypes/CallTypeSplit.h"
+#include "map/data/DataStatement.h"
 #include "map/detail/AreaDetail.h"
 #include "map/form/MapTypeList.h"
 #include "stats/ReportParameters.h"
@@ -51,6 +52,14 @@ public:
     /// Rates for each head of population instead of counts.
     void setDensities(bool on);
 
+    /// Prepares the tables of the group tools and takes the map away. Nothing where the user stopped or they cannot be
+    /// shown, of which the user has been told; else what groups are made of (3 postcode districts, 1 CSGs, 2 TV
+    /// regions, 0 not known).
+    std::optional<long> openGroupTools();
+    /// The group tools are closed: the map of the same boundary is counted and drawn anew, or that of TV regions where
+    /// its groups are gone.
+    void groupToolsClosed();
+
     /// Asks for the spend of a campaign and spreads it over the areas of the map.
     void enterCampaignSpend();
     /// The program's files do not fit each other (the user has been told): the program must end.
@@ -73,6 +82,8 @@ public:
     bool densities() const { return densities_; }
     const ReportParameters& parameters() const { return parameters_; }
 
+    /// The figures that the map shows, for a grid.
+    DataView dataView() const;
     /// Counts, also where the map shows rates. Nothing where they could not be read.
     std::optional<MapTotals> totals() const;
     CallTypeBars bars() const;

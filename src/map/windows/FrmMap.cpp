@@ -180,6 +180,7 @@ void FrmMap::registerLinks() {
 }
 
 void FrmMap::connectControls() {
+    connect(lblViewMap, &ucWebbyLink::clicked, this, &FrmMap::CmdData_Click);
     connect(lblExcel, &ucWebbyLink::clicked, this, &FrmMap::CmdExcel_Click);
     connect(cmdCampaignSpend, &ucWebbyLink::clicked, this, &FrmMap::cmdCampaignSpend_Click);
     connect(CmbBoundary, &QComboBox::activated, this, &FrmMap::CmbBoundary_Click);

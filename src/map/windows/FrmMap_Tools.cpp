@@ -1,10 +1,11 @@
 #include "core/ModDeclarations.h"
+#include "map/data/MapData.h"
+#include "map/data/windows/MapOutput.h"
 #include "map/surface/windows/MapSurfaceWidget.h"
 #include "map/surface/windows/MapToolBar.h"
 #include "map/windows/FrmMapWork.h"
 #include "map/workbook/Workbook.h"
 #include "stats/SelectionState.h"
-#include "ui/OpenDocument.h"
 #include "ui/uctFooter.h"
 
 #include <QApplication>
@@ -57,17 +58,20 @@ WorkbookParameters FrmMap::parameters() const {
             .selectionDescription = SelectionDescription};
 }
 
+void FrmMap::CmdData_Click() {
+    if (working_)
+        return;
+    gsCurrentProc = "FrmMap_CmdData_Click";
+    viewMapData(session_.dataView(), parameters(), this);
+}
+
 void FrmMap::CmdExcel_Click() {
     if (working_)
         return;
     const QImage picture = pictureWithoutButtons();
     const Work work(*this);
     gsCurrentProc = "FrmMap_CmdExcel_Click";
-    logAndTell([&] {
-        const std::string path = newDocumentPath("Map", "xlsx");
-        writeMapWorkbook(path, parameters(), picture);
-        openDocument(path);
-    });
+    outputMapPicture(parameters(), picture);
 }
 
 void FrmMap::cmdCampaignSpend_Click() {
