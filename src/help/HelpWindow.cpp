@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int gap = 8;
+constexpr int pictureWidth = 560;
 
 /// Reads pages and pictures of the guide.
 class GuideBrowser : public QTextBrowser {
@@ -24,8 +25,18 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl& name) override {
         if (type == QTextDocument::ImageResource)
-            return QImage(guidePicturePath(name.fileName().isEmpty() ? name.path() : name.fileName()));
+            return picture(name.fileName());
         return guidePage(name.path()).html;
+    }
+
+private:
+    /// As large as the pages show it: scaled by the browser it would be coarse.
+    QImage picture(const QString& name) const {
+        const double ratio = devicePixelRatioF();
+        QImage image(guidePicturePath(name));
+        image = image.scaledToWidth(static_cast<int>(pictureWidth * ratio), Qt::SmoothTransformation);
+        image.setDevicePixelRatio(ratio);
+        return image;
     }
 };
 
