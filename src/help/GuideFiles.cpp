@@ -43,10 +43,13 @@ std::string plainGuide() {
 }
 
 void setGuide(QTextDocument& document) {
-    document.setDefaultStyleSheet(QStringLiteral("h1 { page-break-before: always; }"));
     QString html;
-    for (const GuidePage& page : guidePages())
-        html += page.html;
+    for (const GuidePage& page : guidePages()) {
+        QString part = page.html;
+        if (!html.isEmpty())
+            part.replace(QStringLiteral("<h1>"), QStringLiteral("<h1 style=\"page-break-before: always\">"));
+        html += part;
+    }
     for (const char* name : {"FrmMain.png", "FrmMap.png"})
         document.addResource(QTextDocument::ImageResource, QUrl(name), QImage(guidePicturePath(name)));
     document.setHtml(html);

@@ -83,6 +83,10 @@ HelpWindow::HelpWindow(QWidget* parent)
     resize(920, 640);
 
     connect(txtSearch, &QLineEdit::textChanged, this, &HelpWindow::fillContents);
+    connect(txtSearch, &QLineEdit::returnPressed, this, [this] {
+        if (lstContents->count() > 0)
+            showPage(lstContents->item(0)->data(Qt::UserRole).toString());
+    });
     connect(lstContents, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
         if (item)
             showPage(item->data(Qt::UserRole).toString());

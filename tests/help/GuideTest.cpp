@@ -60,7 +60,9 @@ TEST(Guide, ASearchFindsAllWordsHeadingsFirst) {
 TEST(Guide, BothFilesHaveTheWholeGuide) {
     const TemporaryFolder folder;
     writeGuideFiles(folder.text());
-    EXPECT_TRUE(bytesOf(folder.file("CallscopeMapping.pdf")).startsWith("%PDF-"));
+    const QByteArray pdf = bytesOf(folder.file("CallscopeMapping.pdf"));
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_EQ(pdf.count("/Type /Page\n"), static_cast<qsizetype>(guidePages().size())) << "no page is empty";
     const QString text = QString::fromUtf8(bytesOf(folder.file("CallscopeMapping.txt")));
     for (const GuidePage& page : guidePages())
         EXPECT_TRUE(text.contains(page.title)) << page.title.toStdString();
@@ -79,6 +81,10 @@ TEST(HelpWindow, SearchContentsAndHistoryLeadToPages) {
     EXPECT_EQ(help.browser->source().path(), "map") << "typing must not turn the page";
     help.lstContents->setCurrentRow(0);
     EXPECT_EQ(help.browser->source().path(), "animation");
+    help.txtSearch->setText("population");
+    emit help.txtSearch->returnPressed();
+    EXPECT_EQ(help.browser->source().path(), "population");
+    help.browser->backward();
     help.browser->backward();
     EXPECT_EQ(help.browser->source().path(), "map");
 }
