@@ -13,6 +13,7 @@ using Action = std::function<int()>;
 void addSampleCommand(CLI::App& app, Action& action);
 void addSqlCommand(CLI::App& app, Action& action);
 void addReportCommand(CLI::App& app, Action& action);
+void addGuideCommand(CLI::App& app, Action& action);
 
 /// Exit statuses of the tool.
 inline constexpr int Done = 0;

@@ -24,6 +24,7 @@
 #include "stats/SelectionState.h"
 #include "tools/callscope-tool/AgreeingPrompts.h"
 #include "tools/callscope-tool/Commands.h"
+#include "tools/callscope-tool/Painting.h"
 #include "tools/callscope-tool/ReportOptions.h"
 #include "tools/callscope-tool/TextOutput.h"
 #include "ui/cColours_CS.h"
@@ -31,7 +32,6 @@
 #include <CLI/CLI.hpp>
 
 #include <QBuffer>
-#include <QGuiApplication>
 #include <QPainter>
 
 #include <chrono>
@@ -194,22 +194,6 @@ FigureEngine engineNamed(const std::string& name) {
 void requireWantedEngine() {
     if (figureEngine() == FigureEngine::Scan && usedFigureEngine() != FigureEngine::Scan)
         throw RuntimeError(5, "The calls cannot be counted by a scan; the error log says why");
-}
-
-/// Fonts and painting need the library's application object, but never a display.
-void startPainting() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The painting library's remarks on the machine's desktop say nothing to the users of this tool.
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
-        if (type == QtCriticalMsg || type == QtFatalMsg)
-            std::cerr << message.toStdString() << '\n';
-    });
-    static int count = 1;
-    static char name[] = "callscope-tool";
-    static char* arguments[] = {name, nullptr};
-    static QGuiApplication application(count, arguments);
-    gsFontName = "Calibri";
 }
 
 /// A wanted engine counts anew what the report shows; otherwise figures that are there already are good.

@@ -1,5 +1,8 @@
+#include "core/cPathControl.h"
+#include "help/GuideFiles.h"
 #include "sample/installation/SampleInstallation.h"
 #include "tools/callscope-tool/Commands.h"
+#include "tools/callscope-tool/Painting.h"
 
 #include <CLI/CLI.hpp>
 
@@ -41,6 +44,8 @@ void addSampleCommand(CLI::App& app, Action& action) {
         action = [options] {
             const auto start = std::chrono::steady_clock::now();
             const sample::SampleReport report = sample::makeSampleInstallation(*options);
+            startPainting();
+            writeGuideFiles(toText(toPath(report.systemMapPath).parent_path()));
             show(report, options->calls,
                  std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
             return Done;

@@ -15,6 +15,7 @@ int run(int argc, char** argv) {
     addSampleCommand(app, action);
     addSqlCommand(app, action);
     addReportCommand(app, action);
+    addGuideCommand(app, action);
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& help) {
