@@ -2,10 +2,12 @@
 #include "help/GuideBook.h"
 #include "help/GuideFiles.h"
 #include "help/HelpWindow.h"
+#include "help/OpenHelp.h"
 #include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QFile>
 #include <QImage>
 #include <QLineEdit>
@@ -87,4 +89,22 @@ TEST(HelpWindow, SearchContentsAndHistoryLeadToPages) {
     help.browser->backward();
     help.browser->backward();
     EXPECT_EQ(help.browser->source().path(), "map");
+}
+
+TEST(HelpWindow, BelongsToTheWindowThatAskedLast) {
+    QWidget main;
+    main.setObjectName("FrmMain");
+    QDialog map;
+    map.setObjectName("FrmMap");
+    openHelp(main);
+    openHelp(main);
+    ASSERT_EQ(main.findChildren<HelpWindow*>().size(), 1);
+    map.setModal(true);
+    map.show();
+    openHelp(map);
+    EXPECT_TRUE(main.findChildren<HelpWindow*>().isEmpty());
+    auto* help = map.findChild<HelpWindow*>();
+    ASSERT_TRUE(help);
+    EXPECT_TRUE(help->isVisible());
+    EXPECT_EQ(help->browser->source().path(), "map");
 }
