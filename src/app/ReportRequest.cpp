@@ -11,12 +11,14 @@
 #include "groups/UpdateCustomerGroups.h"
 #include "map/Boundaries.h"
 #include "map/windows/FrmMap.h"
+#include "multimap/windows/FrmMultiMap.h"
 #include "report/CheckReportInput.h"
 #include "report/FrmMain.h"
 #include "report/ReportRun.h"
 #include "report/panels/ReportButtons.h"
 #include "ui/WindowProgress.h"
 
+#include <QApplication>
 #include <QListWidget>
 
 #include <array>
@@ -98,8 +100,18 @@ FrmMap& ReportRequest::map() {
         map_ = std::make_unique<FrmMap>();
         QObject::connect(map_.get(), &FrmMap::closed, &window_, [this] { mapClosed(); });
         QObject::connect(map_.get(), &FrmMap::helpRequested, &window_, &FrmMain::helpRequested);
+        QObject::connect(map_.get(), &FrmMap::programFilesOutdated, &window_, [] { QApplication::exit(1); });
     }
     return *map_;
+}
+
+FrmMultiMap& ReportRequest::maps() {
+    if (!maps_) {
+        maps_ = std::make_unique<FrmMultiMap>();
+        QObject::connect(maps_.get(), &FrmMultiMap::closed, &window_, [this] { mapClosed(); });
+        QObject::connect(maps_.get(), &FrmMultiMap::helpRequested, &window_, &FrmMain::helpRequested);
+    }
+    return *maps_;
 }
 
 void ReportRequest::mapClosed() {
@@ -124,14 +136,19 @@ bool ReportRequest::count(long boundary) {
     return true;
 }
 
-bool ReportRequest::countSeveralMaps() {
+bool ReportRequest::showSeveralMaps() {
     bringGeographyUpToDate();
     const ReportParameters parameters = window_.parameters();
     const MultiMapParameters ranges = window_.multiMapParameters();
     if (!checkDates(parameters) || !checkChoices(parameters) || !checkRanges(parameters, ranges))
         return false;
-    const Hourglass hourglass;
-    runMultiMapReport(window_.multiMapPostCodeDistricts() ? postCodeDistricts : tvRegions, parameters, ranges);
+    const long boundary = window_.multiMapPostCodeDistricts() ? postCodeDistricts : tvRegions;
+    {
+        const Hourglass hourglass;
+        runMultiMapReport(boundary, parameters, ranges);
+    }
+    progress().setReportBar(false, steps, 0);
+    maps().showReport(boundary, ranges);
     return true;
 }
 
@@ -158,9 +175,7 @@ void ReportRequest::run(int index) {
     bool shown = false;
     try {
         if (index == ReportButtons::multipleMaps) {
-            if (countSeveralMaps())
-                showMessage("The figures of the maps are counted. Their window is not part of this program yet.",
-                            PromptStyle::Information);
+            shown = showSeveralMaps();
         } else if (const long boundary = boundaryOf(index); count(boundary)) {
             showMap(boundary);
             shown = true;

@@ -4,6 +4,7 @@
 
 class FrmMain;
 class FrmMap;
+class FrmMultiMap;
 class WindowProgress;
 
 /// What the report buttons of the main window do: count what its parameters select for their boundary, and show the
@@ -26,12 +27,14 @@ private:
     class Fence;
 
     bool count(long boundary);
-    bool countSeveralMaps();
+    bool showSeveralMaps();
     void showMap(long boundary);
     void mapClosed();
+    FrmMultiMap& maps();
 
     FrmMain& window_;
     WindowProgress& progress_;
     std::unique_ptr<FrmMap> map_;
+    std::unique_ptr<FrmMultiMap> maps_;
     std::unique_ptr<Fence> fence_; ///< as long as a report runs or a map is shown
 };

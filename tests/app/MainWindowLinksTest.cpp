@@ -4,6 +4,7 @@
 #include "core/ModDeclarations.h"
 #include "data/engine/Database.h"
 #include "map/windows/FrmMap.h"
+#include "multimap/windows/FrmMultiMap.h"
 #include "report/FrmMain.h"
 #include "sample/installation/SampleInstallation.h"
 #include "tests/support/ScriptedPrompts.h"
@@ -51,10 +52,11 @@ protected:
         QTest::mouseClick(window_->findChild<QAbstractButton*>(QString::fromLatin1(name)), Qt::LeftButton);
         QApplication::processEvents();
     }
-    static FrmMap* mapWindow() {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* map = qobject_cast<FrmMap*>(window))
-                return map;
+    template<typename Window>
+    static Window* topLevel() {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (auto* window = qobject_cast<Window*>(widget))
+                return window;
         return nullptr;
     }
     std::string label3() const { return window_->findChild<QLabel*>("Label3")->text().toStdString(); }
@@ -84,7 +86,7 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
     press("OptInbound_1");
     press("cmdReport_104");
     EXPECT_EQ(takeMessages(), Messages{});
-    FrmMap* map = mapWindow();
+    FrmMap* map = topLevel<FrmMap>();
     ASSERT_TRUE(map && map->isVisible());
     EXPECT_FALSE(window_->LstHistory()->isEnabled()) << "the parameters wait for the map";
     press("cmdReport_104");
@@ -98,13 +100,20 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
     EXPECT_FALSE(window_->Label8()->isVisible());
 
     press("cmdReport_8");
-    EXPECT_EQ(takeMessages(),
-              Messages{"The figures of the maps are counted. Their window is not part of this program yet."});
+    EXPECT_EQ(takeMessages(), Messages{});
+    auto* maps = topLevel<FrmMultiMap>();
+    ASSERT_TRUE(maps && maps->isVisible());
+    EXPECT_FALSE(window_->LstHistory()->isEnabled()) << "the parameters wait for the maps";
+    EXPECT_EQ(maps->session().count(), 2);
+    maps->close();
+    QApplication::processEvents();
+    EXPECT_TRUE(window_->LstHistory()->isEnabled());
     const auto remembered = gdbSystem->openRecordset("SELECT MultiMaps, BoundaryType2 FROM TblDataCapture");
     EXPECT_EQ(remembered->value(0).asText() + " " + remembered->value(1).asText(), "2 TVRegion");
-    const auto maps = gdbSystem->openRecordset("SELECT Sum(TotalCalls2), Sum(TotalCalls3) FROM TblSelectedDataForTV");
-    EXPECT_GT(maps->value(0).asDouble(), 0);
-    EXPECT_EQ(maps->value(0).asDouble(), maps->value(1).asDouble()) << "both maps stand on the whole period";
+    const auto figures =
+        gdbSystem->openRecordset("SELECT Sum(TotalCalls2), Sum(TotalCalls3) FROM TblSelectedDataForTV");
+    EXPECT_GT(figures->value(0).asDouble(), 0);
+    EXPECT_EQ(figures->value(0).asDouble(), figures->value(1).asDouble()) << "both maps stand on the whole period";
 
     auto* last = window_->findChild<QDateTimeEdit*>("DTEnd");
     last->setCurrentSection(QDateTimeEdit::YearSection);
@@ -119,7 +128,7 @@ TEST_F(MainWindowLinks, ACapturedProjectStartsWithItsMap) {
     choose(2);
     start_.ModUtilities_OpenMap();
     QApplication::processEvents();
-    FrmMap* map = mapWindow();
+    FrmMap* map = topLevel<FrmMap>();
     ASSERT_TRUE(map && map->isVisible());
     EXPECT_EQ(gsBoundaryType, "TVRegion");
     map->close();

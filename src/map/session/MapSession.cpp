@@ -1,5 +1,6 @@
 #include "map/session/MapSession.h"
 
+#include "animation/Animation.h"
 #include "core/LogAndGoOn.h"
 #include "core/ModDeclarations.h"
 #include "core/Prompts.h"
@@ -31,7 +32,7 @@ namespace {
 
 constexpr long tvRegions = 2, postcodeDistricts = 3, customerGroups = 5;
 constexpr long averageCalls = 8;
-constexpr int dataSet = 1;
+constexpr int wholePeriod = 1;     ///< the data set of a map that is not animated
 constexpr double pieScale = 80000; ///< from which width on the pie stands over sea
 
 std::string emptyMapPath() {
@@ -64,6 +65,8 @@ void MapSession::begin(long boundary, const ReportParameters& parameters) {
     form.periods.MapEndTime[1] = parameters.DTStartTime[1];
     mapTypes_ = mapTypeEntries();
     fitMapTypes(mapTypes_.front().code);
+    playback.begin();
+    resetAnimation();
     saveEmptyMap();
     if (gcCampaignSpend != 0)
         chargeAreas();
@@ -81,8 +84,18 @@ void MapSession::loadEmptyMap() {
         logAndGoOn([&] { surface_.LoadMapFile(emptyMapPath()); });
 }
 
+void MapSession::build(long mapType, int dataSet) {
+    map_.CreateMap(boundary_, mapType, dataSet);
+}
+
+void MapSession::framesReady() {
+    densities_ = false;
+    playback.framesReady();
+}
+
 void MapSession::build() {
-    map_.CreateMap(boundary_, mapType_, dataSet);
+    if (!playback.rebuild())
+        build(mapType_, wholePeriod);
     if (mapType_ == averageCalls)
         form.chkDensitiesEnabled = false; // a boundary with population figures enables it
 }
@@ -101,7 +114,7 @@ void MapSession::fitMapTypes(long wanted) {
 void MapSession::useTable(const std::string& table) {
     *currentTables.of(boundary_) = table;
     mapMaxima = {};
-    logAndGoOn([&] { ModData_MaxValues(table, dataSet); });
+    logAndGoOn([&] { ModData_MaxValues(table, wholePeriod); });
 }
 
 bool MapSession::bringGroupsIn(long& code) {
@@ -121,6 +134,7 @@ bool MapSession::changeBoundary(long code) {
     if (!findBoundary(code) || (code == customerGroups && !bringGroupsIn(code)))
         return false;
     gsCurrentProc = "FrmMap_CmbBoundary_Click";
+    playback.abandon();
     form.mapReady = form.labelFlag = form.extentCaptured = false;
     form.keepView = true;
     loadEmptyMap();
@@ -142,6 +156,8 @@ bool MapSession::changeBoundary(long code) {
 void MapSession::changeMapType(long code) {
     gsCurrentProc = "FrmMap_cmbMapType_Click";
     form.mapReady = false;
+    if (code == averageCalls && playback.active())
+        playback.stop(); // frames have no averages
     if (code == averageCalls && densities_) {
         densities_ = false;
         useTable(mainTable(boundary_));
@@ -161,6 +177,7 @@ void MapSession::setDensities(bool on) {
 }
 
 std::optional<long> MapSession::openGroupTools() {
+    playback.abandon();
     long type = 0;
     const long result = OpenGroupTools(fraSaveStatus, lblSaveStatus, lblGroupStatus, type);
     if (result == -1)
@@ -181,7 +198,7 @@ void MapSession::groupToolsClosed() {
 
 /// A table that was counted anew knows nothing of the campaign.
 void MapSession::chargeAreas() {
-    if (updateCostPerCallStats(boundary_, dataSet))
+    if (updateCostPerCallStats(boundary_, wholePeriod))
         return;
     showMessage("Please obtain up-to-date program files");
     if (programFilesOutdated)
@@ -228,6 +245,7 @@ void MapSession::drawFinished() {
 }
 
 void MapSession::end() {
+    playback.abandon();
     form.CurrentFrame = 0;
     deleteUpperLayers(surface_);
     surface_.CloseLayerSource(0);
@@ -235,7 +253,7 @@ void MapSession::end() {
 }
 
 DataView MapSession::dataView() const {
-    return ::dataView(boundary_, dataSet, densities_);
+    return ::dataView(boundary_, playback.dataSet(), densities_);
 }
 
 std::optional<MapTotals> MapSession::totals() const {
@@ -253,7 +271,7 @@ std::optional<MapTotals> MapSession::totals() const {
 CallTypeBars MapSession::bars() const {
     const MapMeasure* measure = findMapMeasure(mapType_);
     const auto breaks = measure ? splitBandList(bandList(measure->maximum(mapMaxima))) : std::vector<std::string>();
-    const std::string column = statisticsColumn(mapType_, dataSet);
+    const std::string column = statisticsColumn(mapType_, playback.dataSet());
     CallTypeBars bars;
     logAndGoOn([&] {
         bars = boundary_ == customerGroups ? callTypeBarsOfGroups(column, breaks)
@@ -276,7 +294,7 @@ AreaQuestion MapSession::question() const {
     AreaQuestion question;
     question.boundaryType = gsBoundaryType;
     question.table = *currentTables.of(boundary_);
-    question.dataSet = dataSet;
+    question.dataSet = playback.dataSet();
     question.densities = densities_;
     question.groupBaseGeography = form.groupBaseGeography;
     if (gcCampaignSpend != 0)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "animation/playback/Playback.h"
+#include "animation/playback/PlaybackMap.h"
 #include "core/Caption.h"
 #include "groups/UpdateCustomerGroups.h"
 #include "map/MapFormState.h"
@@ -28,11 +30,13 @@ struct MapTotals {
 /// What the map window decides, without its widgets: which figures it shows of which boundary, when labels are on, what
 /// a click means. The window calls it in its handlers and shows what it holds. Surface and key outlive it. Errors are
 /// logged and passed over. Main thread.
-class MapSession {
+class MapSession : private PlaybackMap {
 public:
     MapSession(MapSurface& surface, MapKey& key);
 
     MapFormState form;
+    /// The frames of an animation of this map.
+    Playback playback{*this, form};
 
     /// Where the groups show that they are brought up to date.
     FrameVisibility fraSaveStatus;
@@ -43,6 +47,8 @@ public:
     void begin(long boundary, const ReportParameters& parameters);
     /// Builds and draws the map anew.
     void build();
+    /// Frames have been set up: they are played on the counts of the map.
+    void framesReady();
 
     /// Counts another boundary for the same parameters and draws it, at the view of the whole map. A boundary that
     /// cannot be shown leads back: boundary() tells where to. False where nothing has changed.
@@ -77,10 +83,10 @@ public:
     void end();
 
     long boundary() const { return boundary_; }
-    long mapType() const { return mapType_; }
+    long mapType() const override { return mapType_; }
     const std::vector<ListEntry>& mapTypes() const { return mapTypes_; }
     bool densities() const { return densities_; }
-    const ReportParameters& parameters() const { return parameters_; }
+    const ReportParameters& parameters() const override { return parameters_; }
 
     /// The figures that the map shows, for a grid.
     DataView dataView() const;
@@ -95,6 +101,7 @@ public:
     bool pieHasRoom() const;
 
 private:
+    void build(long mapType, int dataSet) override; ///< of the playback
     bool bringGroupsIn(long& code);
     void useTable(const std::string& table);
     void fitMapTypes(long wanted);

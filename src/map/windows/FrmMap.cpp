@@ -1,5 +1,6 @@
 #include "map/windows/FrmMap.h"
 
+#include "animation/playback/windows/AnimationStrip.h"
 #include "core/CallHistory.h"
 #include "core/ModDeclarations.h"
 #include "core/Progress.h"
@@ -64,8 +65,8 @@ FrmMap::FrmMap(QWidget* parent)
       chkDensities(new QCheckBox(tr("Use &Population Densities"), this)), keyView_(new MapKeyView(mapKey1_, this)),
       status_(new MapStatusPanel(this)),
       label8_(new QLabel(tr("Analysing map data for selected parameters, please wait..."), this)),
-      prog1_(new QProgressBar(this)), fraPie(new CallTypePie(&mapSurface1_->canvas())),
-      fraOtherCallAreas(new CallTypePanel(&mapSurface1_->canvas())) {
+      prog1_(new QProgressBar(this)), strip_(new AnimationStrip(session_.playback, this)),
+      fraPie(new CallTypePie(&mapSurface1_->canvas())), fraOtherCallAreas(new CallTypePanel(&mapSurface1_->canvas())) {
     setObjectName(QStringLiteral("FrmMap"));
     setWindowTitle(QStringLiteral("Ostel Callscope Mapping v") + QString::fromStdString(gsVersion));
     setWindowIcon(appIcon());
@@ -147,7 +148,11 @@ void FrmMap::arrange() {
     auto* middle = new QHBoxLayout;
     middle->setSpacing(0);
     middle->addWidget(sidePanel());
-    middle->addWidget(mapSurface1_, 1);
+    auto* map = new QVBoxLayout;
+    map->setSpacing(0);
+    map->addWidget(mapSurface1_, 1);
+    map->addWidget(strip_);
+    middle->addLayout(map, 1);
     auto* window = new QVBoxLayout(this);
     window->setContentsMargins(0, 0, 0, 0);
     window->setSpacing(0);
@@ -181,6 +186,8 @@ void FrmMap::registerLinks() {
 
 void FrmMap::connectControls() {
     connect(lblViewMap, &ucWebbyLink::clicked, this, &FrmMap::CmdData_Click);
+    connect(strip_, &AnimationStrip::setUpRequested, this, &FrmMap::CmdSetUp_Click);
+    connect(strip_, &AnimationStrip::playbackChanged, this, &FrmMap::playbackChanged);
     connect(lblExcel, &ucWebbyLink::clicked, this, &FrmMap::CmdExcel_Click);
     connect(cmdCampaignSpend, &ucWebbyLink::clicked, this, &FrmMap::cmdCampaignSpend_Click);
     connect(CmbBoundary, &QComboBox::activated, this, &FrmMap::CmbBoundary_Click);
@@ -231,13 +238,20 @@ void FrmMap::EnableForm() {
 
 void FrmMap::enableControls() {
     const bool free = !working_;
-    for (QWidget* control : std::initializer_list<QWidget*>{CmbBoundary, cmbMapType, mapSurface1_, uctFooter1})
-        control->setEnabled(free);
-    chkDensities->setEnabled(free && session_.form.chkDensitiesEnabled);
+    const Playback& playback = session_.playback;
+    const bool still = free && playback.state() != Playback::State::Playing;
+    const bool whole = free && !playback.active();
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{CmbBoundary, cmbMapType, mapSurface1_, lblViewMap, lblExcel})
+        control->setEnabled(still);
+    uctFooter1->setEnabled(free);
+    chkDensities->setEnabled(whole && session_.form.chkDensitiesEnabled);
+    cmdCampaignSpend->setEnabled(whole);
     const bool grouping = canGroup(session_.boundary());
-    lblGroupTools->setEnabled(free && grouping);
+    lblGroupTools->setEnabled(whole && grouping);
     lblGroupTools->setToolTip(grouping ? tr("Make groups of areas on a map")
                                        : tr("Groups are made on maps of TV regions, post code districts or groups"));
+    strip_->setWorking(working_);
 }
 
 void FrmMap::removeCustomerGroups() {
@@ -325,6 +339,7 @@ void FrmMap::fillMapTypes() {
 void FrmMap::refresh() {
     fillMapTypes();
     CmbBoundary->setCurrentIndex(CmbBoundary->findData(static_cast<qlonglong>(session_.boundary())));
+    strip_->setMap(session_.boundary(), session_.mapType());
     enableControls();
     chkDensities->setChecked(session_.densities());
     chkDensities->setToolTip(session_.form.chkDensitiesEnabled ? tr("Calls for each head of population")
@@ -380,8 +395,9 @@ void FrmMap::keyPressEvent(QKeyEvent* event) {
 }
 
 void FrmMap::closeEvent(QCloseEvent* event) {
-    if (working_) {
+    if (working_ || session_.playback.busy()) {
         session_.form.closeRequested = true;
+        session_.playback.abandon();
         event->ignore();
         return;
     }

@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QWidget>
 
+class AnimationStrip;
 class CallTypePanel;
 class CallTypePie;
 class MapKeyView;
@@ -71,6 +72,8 @@ private:
     void chkDensities_Click(bool on);
     void CmdData_Click();
     void CmdExcel_Click();
+    void CmdSetUp_Click();
+    void playbackChanged();
     void cmdCampaignSpend_Click();
     void MapSurface1_ToolBarClick(long tool);
     void MapSurface1_DrawMapFinished();
@@ -107,6 +110,7 @@ private:
     ucWebbyLink* lblExcel;
     ucWebbyLink* lblGroupTools;
     ucWebbyLink* cmdCampaignSpend;
+    AnimationStrip* strip_;
     CallTypePie* fraPie;
     CallTypePanel* fraOtherCallAreas;
     bool working_ = false;

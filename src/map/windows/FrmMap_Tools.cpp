@@ -1,3 +1,5 @@
+#include "animation/playback/windows/AnimationStrip.h"
+#include "animation/windows/FrmAnimate.h"
 #include "core/ModDeclarations.h"
 #include "map/data/MapData.h"
 #include "map/data/windows/MapOutput.h"
@@ -44,7 +46,7 @@ private:
 } // namespace
 
 QImage FrmMap::pictureWithoutButtons() {
-    const Hidden hidden(*this, {uctFooter1, &mapSurface1_->toolBar()});
+    const Hidden hidden(*this, {uctFooter1, strip_, &mapSurface1_->toolBar()});
     mapSurface1_->shownPicture(); // drawn at the size that it has now
     return grab().toImage();
 }
@@ -72,6 +74,25 @@ void FrmMap::CmdExcel_Click() {
     const Work work(*this);
     gsCurrentProc = "FrmMap_CmdExcel_Click";
     outputMapPicture(parameters(), picture);
+}
+
+void FrmMap::CmdSetUp_Click() {
+    if (working_)
+        return;
+    // Frames are counted by selections of their own; the map keeps that of its report.
+    const std::string selection = SelectionSql, description = SelectionDescription;
+    FrmAnimate window(session_.parameters(), session_.form.periods, this);
+    const bool accepted = window.exec() == QDialog::Accepted;
+    SelectionSql = selection;
+    SelectionDescription = description;
+    if (accepted)
+        session_.framesReady();
+}
+
+void FrmMap::playbackChanged() {
+    if (!working_ && !session_.playback.busy())
+        showPanels();
+    refresh();
 }
 
 void FrmMap::cmdCampaignSpend_Click() {
