@@ -260,8 +260,9 @@ std::optional<MapTotals> MapSession::totals() const {
     std::optional<MapTotals> totals;
     ignoreErrors([&] {
         const std::string& shown = *currentTables.of(boundary_);
-        const auto row = systemDatabase().openRecordset("SELECT Sum(TotalCalls1), Sum(Cost1) FROM " +
-                                                        (densities_ ? mainTable(boundary_) : shown));
+        const std::string period = std::to_string(playback.dataSet());
+        const auto row = systemDatabase().openRecordset("SELECT Sum(TotalCalls" + period + "), Sum(Cost" + period +
+                                                        ") FROM " + (densities_ ? mainTable(boundary_) : shown));
         const auto figure = [&](int at) { return row->value(at).isNull() ? 0.0 : row->value(at).asDouble(); };
         totals = MapTotals{std::llround(figure(0)), figure(1)};
     });

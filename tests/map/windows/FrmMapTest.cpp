@@ -1,5 +1,7 @@
 #include "map/windows/FrmMap.h"
 
+#include "animation/Animation.h"
+#include "animation/windows/FrmAnimate.h"
 #include "core/ModDeclarations.h"
 #include "core/Progress.h"
 #include "core/cPathControl.h"
@@ -15,6 +17,7 @@
 #include "stats/CurrentTables.h"
 #include "tests/support/ScriptedPrompts.h"
 #include "tests/support/TemporaryFolder.h"
+#include "ui/OpenDocument.h"
 
 #include <gtest/gtest.h>
 
@@ -23,11 +26,13 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QSlider>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
 
 #include <algorithm>
+#include <filesystem>
 
 namespace {
 
@@ -66,6 +71,7 @@ protected:
     QString readOut(int index) {
         return window_.findChild<QLabel*>(QStringLiteral("LblStatusValue_%1").arg(index))->text();
     }
+    MapSession& session() { return window_.session(); }
     MapSurface& surface() { return window_.MapSurface1()->surface(); }
     bool labelsAreOn() { return surface().scene().layers.back().LayerVisible; }
 
@@ -239,6 +245,140 @@ TEST_F(FrmMapTest, EveryBoundaryTellsOfItsAreasInItsOwnWords) {
         EXPECT_EQ(mobile.detail->population.has_value(), false);
         window_.close();
     }
+}
+
+/// The window that opens next is filled in and left by its button; "" is left by Escape.
+class AnimationForm {
+public:
+    explicit AnimationForm(QString apply, QString frames = "3", QString period = "24hr") {
+        timer_.setInterval(20);
+        QObject::connect(&timer_, &QTimer::timeout, [=, this] {
+            auto* window = qobject_cast<FrmAnimate*>(QApplication::activeModalWidget());
+            if (!window)
+                return;
+            timer_.stop();
+            if (apply.isEmpty()) {
+                window->reject();
+                return;
+            }
+            window->findChild<QComboBox*>("CmbDataPeriod")->setCurrentText(period);
+            window->findChild<QComboBox*>("CmbFrames")->setCurrentText(frames);
+            window->findChild<QComboBox*>("CmbInterval")->setCurrentText("1");
+            QTest::mouseClick(window->findChild<QPushButton*>(apply), Qt::LeftButton);
+        });
+        timer_.start();
+    }
+
+private:
+    QTimer timer_;
+};
+
+TEST_F(FrmMapTest, AnAnimationIsSetUpSteppedThroughAndStopped) {
+    show(2);
+    const QString wholePeriod = readOut(1), wholeMaximum = readOut(5);
+    auto* setUp = window_.findChild<QPushButton*>("CmdSetUp");
+    auto* bar = window_.findChild<QSlider*>("HScroll1");
+    {
+        const AnimationForm cancelled("");
+        setUp->click();
+        EXPECT_FALSE(session().playback.active());
+        EXPECT_EQ(readOut(1), wholePeriod);
+    }
+    const AnimationForm form("CmdApply");
+    setUp->click();
+    ASSERT_TRUE(session().playback.active());
+    EXPECT_EQ(FrameCount, 3);
+    EXPECT_EQ(readOut(0), "01/03/2025");
+    EXPECT_EQ(readOut(1), "01/03/2025");
+    EXPECT_NE(readOut(5), wholeMaximum);
+    EXPECT_EQ(session().dataView().table, "TblAnimatedTV1");
+    EXPECT_FALSE(session().dataView().hasCostColumns);
+    bar->setValue(2);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(readOut(0), "03/03/2025");
+    EXPECT_EQ(session().dataView().dataSet, 3);
+    EXPECT_FALSE(window_.findChild<QAbstractButton*>("lblGroupTools")->isEnabled());
+    EXPECT_FALSE(window_.findChild<QAbstractButton*>("cmdCampaignSpend")->isEnabled());
+
+    choose("cmbMapType", "Answered Calls"); // of the frame on show
+    EXPECT_EQ(readOut(0), "03/03/2025");
+    EXPECT_EQ(session().playback.shownFrame(), 3);
+    choose("cmbMapType", "Total Calls");
+    window_.findChild<QPushButton*>("cmdStopAnimate")->click();
+    EXPECT_FALSE(session().playback.active());
+    EXPECT_EQ(readOut(1), wholePeriod);
+    EXPECT_EQ(readOut(5), wholeMaximum);
+    EXPECT_EQ(currentTables.TV, "TblTV");
+    EXPECT_TRUE(SelectionSql.empty()) << "frames are not the selection of the report";
+}
+
+TEST_F(FrmMapTest, FramesHaveNoAveragesAndNoOtherBoundaryPlays) {
+    show(3);
+    const AnimationForm form("CmdApply");
+    window_.findChild<QPushButton*>("CmdSetUp")->click();
+    ASSERT_TRUE(session().playback.active());
+    choose("cmbMapType", "Average Calls Per Caller");
+    EXPECT_FALSE(session().playback.active());
+    EXPECT_EQ(currentTables.PostCodeDistrict, "TblPostCodeDistrict");
+    EXPECT_FALSE(window_.findChild<QPushButton*>("CmdSetUp")->isEnabled());
+    choose("cmbMapType", "Total Calls");
+    const AnimationForm again("CmdApply");
+    window_.findChild<QPushButton*>("CmdSetUp")->click();
+    ASSERT_TRUE(session().playback.active());
+    choose("CmbBoundary", "CSG's");
+    EXPECT_FALSE(session().playback.active());
+    EXPECT_FALSE(window_.findChild<QPushButton*>("CmdSetUp")->isEnabled());
+    EXPECT_TRUE(currentTables.PostCodeDistrict.empty());
+}
+
+TEST_F(FrmMapTest, ACloseWhileFramesPlayEndsThem) {
+    show(2);
+    const AnimationForm form("CmdApply");
+    window_.findChild<QPushButton*>("CmdSetUp")->click();
+    window_.findChild<QPushButton*>("CmdPause")->click();
+    EXPECT_EQ(session().playback.state(), Playback::State::Playing);
+    EXPECT_FALSE(window_.findChild<QComboBox*>("CmbBoundary")->isEnabled());
+    EXPECT_FALSE(window_.findChild<QAbstractButton*>("lblViewMap")->isEnabled());
+    window_.close();
+    QTest::qWait(20);
+    EXPECT_FALSE(window_.isVisible());
+    EXPECT_FALSE(session().playback.active());
+}
+
+TEST_F(FrmMapTest, ThePictureForAWorkbookHasNoButtonsAndTheWindowKeepsThem) {
+    show(2);
+    std::string opened;
+    setDocumentOpener([&](const std::string& path) {
+        opened = path;
+        return true;
+    });
+    const QRect mapBefore = window_.MapSurface1()->geometry();
+    window_.findChild<QAbstractButton*>("lblExcel")->click();
+    setDocumentOpener({});
+    ASSERT_FALSE(opened.empty());
+    EXPECT_GT(std::filesystem::file_size(opened), 20'000U); // the picture is in it
+    std::filesystem::remove(opened);
+    EXPECT_TRUE(window_.findChild<QPushButton*>("CmdSetUp")->isVisible());
+    EXPECT_TRUE(window_.findChild<QAbstractButton*>("lblExcel")->isVisible());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window_.MapSurface1()->geometry(), mapBefore);
+}
+
+TEST_F(FrmMapTest, ACampaignSpendReachesTheAreasOfEveryBoundary) {
+    show(2);
+    prompts_.entries = {"1000"};
+    window_.findChild<QAbstractButton*>("cmdCampaignSpend")->click();
+    EXPECT_EQ(gcCampaignSpend, 1000);
+    for (const auto& [text, table] : {std::pair{"CSG's", "TblCSG"}, std::pair{"TV Regions", "TblTV"}}) {
+        choose("CmbBoundary", text);
+        const auto row =
+            systemDatabase().openRecordset(std::string("SELECT Sum(AreaCostPerAnsweredCall) FROM ") + table);
+        EXPECT_GT(row->value(0).asDouble(), 500) << table;
+    }
+    prompts_.entries = {"0"};
+    window_.findChild<QAbstractButton*>("cmdCampaignSpend")->click();
+    EXPECT_EQ(gcCampaignSpend, 0);
+    EXPECT_TRUE(prompts_.texts.empty());
 }
 
 TEST_F(FrmMapTest, WithoutGroupsTheirBoundaryLeavesTheList) {
