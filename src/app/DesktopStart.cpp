@@ -10,29 +10,20 @@
 #include "data/project/OpenProjectDatabase.h"
 #include "data/project/UpdateMappingGISTable.h"
 #include "data/upkeep/CheckForNewUKMapDB.h"
+#include "help/FrmMain_PrintUserGuide.h"
+#include "help/OpenHelp.h"
 #include "report/FrmMain.h"
 #include "report/ModUtilities_OpenMap.h"
 #include "ui/InterfaceFont.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QThread>
-#include <QUrl>
 #include <QWindow>
 
 namespace {
-
-void openHelp() {
-    const std::string folder = gPaths ? gPaths->ApplicationRootPath : std::string();
-    const std::string file = fileInFolder(folder, "CALLSCOPEMAPPING.chm");
-    const bool opened = fileExists(folder, "CALLSCOPEMAPPING.chm") &&
-                        QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
-    if (!opened)
-        showMessage("The help file cannot be opened: " + file, PromptStyle::Information);
-}
 
 /// A project that is opened next takes its time: the window is painted before.
 void showItself(QWidget& window) {
@@ -86,11 +77,11 @@ void DesktopStart::connectMainWindow() {
     QObject::connect(
         window, &FrmMain::historyRowChosen, window, [this](int row) { links_->openRow(row); }, Qt::QueuedConnection);
     QObject::connect(window, &FrmMain::reportRequested, window, [this](int index) { reports_->run(index); });
-    QObject::connect(window, &FrmMain::helpRequested, window, openHelp);
+    QObject::connect(window, &FrmMain::helpRequested, window, [window] { openHelp(*window); });
     QObject::connect(window, &FrmMain::populationFiguresRequested, window,
                      [] { sayNotBuilt("The editor of population figures"); });
-    QObject::connect(window, &FrmMain::userGuideRequested, window, [] { sayNotBuilt("The printing of the guide"); });
-    QObject::connect(window, &FrmMain::saveGuideRequested, window, [] { sayNotBuilt("The saving of the guide"); });
+    QObject::connect(window, &FrmMain::userGuideRequested, window, [] { FrmMain_PrintUserGuide(); });
+    QObject::connect(window, &FrmMain::saveGuideRequested, window, [] { saveUserGuide(); });
 }
 
 bool DesktopStart::mainWindowIsOpen() const {

@@ -9,6 +9,7 @@
 #include "groups/AccountGroups.h"
 #include "groups/ChangedGroups.h"
 #include "groups/UpdateCustomerGroups.h"
+#include "help/OpenHelp.h"
 #include "map/Boundaries.h"
 #include "map/windows/FrmMap.h"
 #include "multimap/windows/FrmMultiMap.h"
@@ -99,7 +100,7 @@ FrmMap& ReportRequest::map() {
     if (!map_) {
         map_ = std::make_unique<FrmMap>();
         QObject::connect(map_.get(), &FrmMap::closed, &window_, [this] { mapClosed(); });
-        QObject::connect(map_.get(), &FrmMap::helpRequested, &window_, &FrmMain::helpRequested);
+        QObject::connect(map_.get(), &FrmMap::helpRequested, map_.get(), [this] { openHelp(*map_); });
         QObject::connect(map_.get(), &FrmMap::programFilesOutdated, &window_, [] { QApplication::exit(1); });
     }
     return *map_;
@@ -109,7 +110,7 @@ FrmMultiMap& ReportRequest::maps() {
     if (!maps_) {
         maps_ = std::make_unique<FrmMultiMap>();
         QObject::connect(maps_.get(), &FrmMultiMap::closed, &window_, [this] { mapClosed(); });
-        QObject::connect(maps_.get(), &FrmMultiMap::helpRequested, &window_, &FrmMain::helpRequested);
+        QObject::connect(maps_.get(), &FrmMultiMap::helpRequested, maps_.get(), [this] { openHelp(*maps_); });
     }
     return *maps_;
 }

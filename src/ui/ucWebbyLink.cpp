@@ -195,6 +195,8 @@ QColor ucWebbyLink::textColour() const {
 QColor ucWebbyLink::fill() const {
     const cColours_CS colours = skinColours();
     const bool pressed = isEnabled() && isDown();
+    if (!isEnabled() && text().isEmpty() && back_.isValid())
+        return back_; // a swatch tells by its colour alone
     if (!isEnabled())
         return kind_ == Kind::Link && !back_.isValid() ? QColor(Qt::transparent) : toColor(colours.Grey(2));
     if (kind_ == Kind::Primary && !back_.isValid())
