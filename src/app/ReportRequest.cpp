@@ -9,6 +9,8 @@
 #include "groups/AccountGroups.h"
 #include "groups/ChangedGroups.h"
 #include "groups/UpdateCustomerGroups.h"
+#include "groups/editor/OpenGroupTools.h"
+#include "groups/windows/frmGroups.h"
 #include "help/OpenHelp.h"
 #include "map/Boundaries.h"
 #include "map/windows/FrmMap.h"
@@ -52,18 +54,33 @@ int buttonOf(std::string_view boundaryType) {
     return ReportButtons::tvRegions;
 }
 
-/// The groups are as Callscope has them. False where the user stopped, or they cannot be.
-bool groupsAreReady() {
-    if (!accountHasGroups()) {
-        showMessage("No Customer Groups have been set up. Please do this in Callscope before attempting to update "
-                    "Groups with Callscope Mapping");
-        return false;
-    }
-    long result = 0;
-    FrmMain_UpdateCustomerGroups(result);
+/// Whether a step on the way to the groups succeeded; the user is told where it failed.
+bool succeeded(long result) {
     if (result != 0 && result != UserStopped)
         showMessage("Could not update Customer Groups");
     return result == 0;
+}
+
+/// An account without groups may make some. False where there are none afterwards.
+bool groupsAreMade(QWidget& window) {
+    long kind = 0;
+    if (!succeeded(OpenGroupTools({}, {}, {}, kind)))
+        return false;
+    frmGroups(kind, &window).exec();
+    if (accountHasGroups())
+        return true;
+    showMessage("No Customer Groups have been set up. Please do this in Callscope before attempting to update "
+                "Groups with Callscope Mapping");
+    return false;
+}
+
+/// The groups are as Callscope has them. False where the user stopped, or they cannot be.
+bool groupsAreReady(QWidget& window) {
+    if (!accountHasGroups())
+        return groupsAreMade(window);
+    long result = 0;
+    FrmMain_UpdateCustomerGroups(result);
+    return succeeded(result);
 }
 
 void bringGeographyUpToDate() {
@@ -126,7 +143,7 @@ bool ReportRequest::count(long boundary) {
     const ReportParameters parameters = window_.parameters();
     if (!checkDates(parameters) || !checkChoices(parameters) || !confirmTimes(parameters))
         return false;
-    if (boundary == customerGroups && !groupsAreReady())
+    if (boundary == customerGroups && !groupsAreReady(window_))
         return false;
     const Hourglass hourglass;
     progress().setReportBar(true, steps, 0);

@@ -189,6 +189,7 @@ void FrmMap::connectControls() {
     connect(strip_, &AnimationStrip::setUpRequested, this, &FrmMap::CmdSetUp_Click);
     connect(strip_, &AnimationStrip::playbackChanged, this, &FrmMap::playbackChanged);
     connect(lblExcel, &ucWebbyLink::clicked, this, &FrmMap::CmdExcel_Click);
+    connect(lblGroupTools, &ucWebbyLink::clicked, this, &FrmMap::cmdGroup_Click);
     connect(cmdCampaignSpend, &ucWebbyLink::clicked, this, &FrmMap::cmdCampaignSpend_Click);
     connect(CmbBoundary, &QComboBox::activated, this, &FrmMap::CmbBoundary_Click);
     connect(cmbMapType, &QComboBox::activated, this, &FrmMap::cmbMapType_Click);

@@ -72,6 +72,7 @@ private:
     void chkDensities_Click(bool on);
     void CmdData_Click();
     void CmdExcel_Click();
+    void cmdGroup_Click();
     void CmdSetUp_Click();
     void playbackChanged();
     void cmdCampaignSpend_Click();

@@ -1,6 +1,7 @@
 #include "animation/playback/windows/AnimationStrip.h"
 #include "animation/windows/FrmAnimate.h"
 #include "core/ModDeclarations.h"
+#include "groups/windows/frmGroups.h"
 #include "map/data/MapData.h"
 #include "map/data/windows/MapOutput.h"
 #include "map/surface/windows/MapSurfaceWidget.h"
@@ -92,6 +93,29 @@ void FrmMap::CmdSetUp_Click() {
 void FrmMap::playbackChanged() {
     if (!working_ && !session_.playback.busy())
         showPanels();
+    refresh();
+}
+
+void FrmMap::cmdGroup_Click() {
+    if (working_)
+        return;
+    gsCurrentProc = "FrmMap_cmdGroup_Click";
+    std::optional<long> kind;
+    {
+        const Work work(*this);
+        kind = session_.openGroupTools();
+    }
+    if (!kind) {
+        refresh();
+        return;
+    }
+    frmGroups(*kind, this).exec();
+    listBoundaries();
+    {
+        const Work work(*this);
+        session_.groupToolsClosed();
+        showPanels();
+    }
     refresh();
 }
 

@@ -6,6 +6,7 @@
 #include "core/Progress.h"
 #include "core/cPathControl.h"
 #include "data/project/Databases.h"
+#include "groups/windows/frmGroups.h"
 #include "map/surface/windows/MapSurfaceWidget.h"
 #include "map/surface/windows/MapToolBar.h"
 #include "map/windows/CallTypePie.h"
@@ -379,6 +380,32 @@ TEST_F(FrmMapTest, ACampaignSpendReachesTheAreasOfEveryBoundary) {
     window_.findChild<QAbstractButton*>("cmdCampaignSpend")->click();
     EXPECT_EQ(gcCampaignSpend, 0);
     EXPECT_TRUE(prompts_.texts.empty());
+}
+
+TEST_F(FrmMapTest, TheGroupToolsOpenOverTheMapWhichComesBackAfterThem) {
+    show(3);
+    bool toolsSeen = false;
+    QTimer leaving;
+    leaving.setInterval(20);
+    QObject::connect(&leaving, &QTimer::timeout, [&] {
+        auto* tools = qobject_cast<frmGroups*>(QApplication::activeModalWidget());
+        if (!tools)
+            return;
+        leaving.stop();
+        toolsSeen = true;
+        EXPECT_FALSE(tools->editor().groups().empty());
+        EXPECT_EQ(surface().NumberOfLayers(), 1) << "the map is away meanwhile";
+        tools->close();
+    });
+    leaving.start();
+    prompts_.answers = {PromptAnswer::Yes, PromptAnswer::Yes}; // what Callscope has changed is applied
+    window_.findChild<QAbstractButton*>("lblGroupTools")->click();
+    EXPECT_TRUE(toolsSeen);
+    EXPECT_EQ(window_.findChild<QComboBox*>("CmbBoundary")->currentText(), "Post Code Districts");
+    EXPECT_GT(surface().NumberOfLayers(), 1);
+    EXPECT_EQ(session().boundary(), 3);
+    choose("CmbBoundary", "CSG's");
+    EXPECT_FALSE(window_.findChild<QAbstractButton*>("lblGroupTools")->isEnabled());
 }
 
 TEST_F(FrmMapTest, WithoutGroupsTheirBoundaryLeavesTheList) {
