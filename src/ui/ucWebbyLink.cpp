@@ -220,6 +220,8 @@ QColor ucWebbyLink::line() const {
         return toColor(colours.Grey(3));
     if (kind_ == Kind::Danger)
         return toColor(colours.Coral(highlighted() ? 6 : 3));
+    if (text().isEmpty() && back_.isValid())
+        return toColor(colours.Grey(5)); // a swatch may be as light as what it stands on
     if (kind_ == Kind::Primary || back_.isValid())
         return fill();
     return toColor(colours.Indigo(highlighted() ? 4 : 3));
