@@ -3,6 +3,8 @@
 #include "app/ModUtilities_Main.h"
 #include "core/ModDeclarations.h"
 #include "data/engine/Database.h"
+#include "data/project/Databases.h"
+#include "groups/windows/frmGroups.h"
 #include "map/windows/FrmMap.h"
 #include "multimap/windows/FrmMultiMap.h"
 #include "report/FrmMain.h"
@@ -20,6 +22,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace {
 
@@ -121,6 +124,40 @@ TEST_F(MainWindowLinks, AProjectOpensFromTheListAndItsReportsAreCounted) {
     press("cmdReport_103");
     EXPECT_EQ(takeMessages(), Messages{"Invalid date selection, report abandoned"});
     EXPECT_TRUE(window_->LstHistory()->isEnabled() && last->isEnabled()) << "the way to other dates is open";
+}
+
+TEST_F(MainWindowLinks, AnAccountWithoutGroupsIsLedToTheGroupTools) {
+    ASSERT_TRUE(window_);
+    choose(2);
+    for (const char* table : {"TblGroups", "TblName", "TblMappingGroupSetup"})
+        customerGroupsDatabase().execute(std::string("DELETE FROM ") + table);
+    projectDatabase().execute("DELETE FROM TblGroups");
+    bool toolsSeen = false;
+    QTimer leaving;
+    leaving.setInterval(20);
+    QObject::connect(&leaving, &QTimer::timeout, [&] {
+        if (auto* tools = qobject_cast<frmGroups*>(QApplication::activeModalWidget())) {
+            leaving.stop();
+            toolsSeen = true;
+            EXPECT_EQ(tools->editor().DataType, 2);
+            tools->close();
+        }
+    });
+    leaving.start();
+    prompts_.options = {1}; // groups of TV regions
+    takeMessages();
+    press("cmdReport_106");
+    EXPECT_TRUE(toolsSeen);
+    ASSERT_EQ(prompts_.modes, std::vector{OptionsMode::GroupTypeOrCancel});
+    const Messages told = takeMessages();
+    ASSERT_EQ(told.size(), 1U) << "no group was made";
+    EXPECT_TRUE(told[0].starts_with("No Customer Groups have been set up."));
+    EXPECT_TRUE(window_->LstHistory()->isEnabled());
+
+    prompts_.options = {3};
+    press("cmdReport_106");
+    EXPECT_EQ(takeMessages(), Messages{}) << "the user has cancelled";
+    EXPECT_TRUE(window_->LstHistory()->isEnabled());
 }
 
 TEST_F(MainWindowLinks, ACapturedProjectStartsWithItsMap) {

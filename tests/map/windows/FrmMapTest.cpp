@@ -408,6 +408,19 @@ TEST_F(FrmMapTest, TheGroupToolsOpenOverTheMapWhichComesBackAfterThem) {
     EXPECT_FALSE(window_.findChild<QAbstractButton*>("lblGroupTools")->isEnabled());
 }
 
+TEST_F(FrmMapTest, MoreGroupsThanTheMapCanShowLeadToRegions) {
+    show(3);
+    for (int group = 0; group < 129; ++group)
+        customerGroupsDatabase().execute("INSERT INTO TblName (TallyAccount, Name) VALUES ('" + gsAccount +
+                                         "', 'SURPLUS " + std::to_string(group) + "')");
+    choose("CmbBoundary", "Customer Groups");
+    customerGroupsDatabase().execute("DELETE FROM TblName WHERE Name LIKE 'SURPLUS *'");
+    ASSERT_EQ(prompts_.texts.size(), 1U);
+    EXPECT_TRUE(prompts_.texts[0].starts_with("Callscope Mapping can display a maximum of 128 Customer Groups."));
+    EXPECT_EQ(window_.findChild<QComboBox*>("CmbBoundary")->currentText(), "TV Regions");
+    EXPECT_EQ(session().boundary(), 2);
+}
+
 TEST_F(FrmMapTest, WithoutGroupsTheirBoundaryLeavesTheList) {
     show(2);
     auto* boundaries = window_.findChild<QComboBox*>("CmbBoundary");
