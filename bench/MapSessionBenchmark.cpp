@@ -1,3 +1,4 @@
+#include "bench/BenchSupport.h"
 #include "core/ModDeclarations.h"
 #include "data/engine/Workspace.h"
 #include "data/project/Databases.h"
@@ -15,33 +16,16 @@
 
 #include <QGuiApplication>
 
-#include <cstdlib>
-
 namespace {
 
 constexpr long tvRegions = 2, postcodeDistricts = 3;
 constexpr QSize mapSize(1400, 1000);
 
-QGuiApplication& application() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    static QGuiApplication instance(count, arguments);
-    return instance;
-}
-
-std::int64_t wantedCalls() {
-    const char* text = std::getenv("CALLSCOPE_BENCH_CALLS");
-    const std::int64_t wanted = text ? std::atoll(text) : 0;
-    return wanted > 0 ? wanted : 1'000'000;
-}
-
 /// A sample project that has been captured, and a map for it.
 class Scene {
 public:
     Scene() {
-        application();
+        offscreenApplication<QGuiApplication>();
         resetGlobals();
         resetDefaultWorkspace();
         project_ =

@@ -1,3 +1,4 @@
+#include "bench/BenchSupport.h"
 #include "map/surface/MapKey.h"
 #include "map/surface/MapSurface.h"
 #include "multimap/MultiMapSession.h"
@@ -14,15 +15,6 @@ namespace {
 constexpr long postcodeDistricts = 3;
 constexpr int sixMaps = 2;
 constexpr QSize mapSize(330, 240); ///< on a screen of 1280 x 800
-
-QGuiApplication& application() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    static QGuiApplication instance(count, arguments);
-    return instance;
-}
 
 /// Six weeks of postcode districts, counted.
 void countWeeks() {
@@ -55,7 +47,7 @@ private:
 
 /// From the counted figures to six drawn maps.
 void sixMapsAppear(benchmark::State& state) {
-    application();
+    offscreenApplication<QGuiApplication>();
     countWeeks();
     const bool share = state.range(0) != 0;
     for ([[maybe_unused]] auto _ : state)
@@ -65,7 +57,7 @@ void sixMapsAppear(benchmark::State& state) {
 BENCHMARK(sixMapsAppear)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void anotherMeasure(benchmark::State& state) {
-    application();
+    offscreenApplication<QGuiApplication>();
     countWeeks();
     const Maps maps(true);
     maps.session->createMaps();

@@ -1,5 +1,6 @@
 #include "app/DesktopStart.h"
 #include "app/ModUtilities_Main.h"
+#include "bench/BenchSupport.h"
 #include "core/ModDeclarations.h"
 #include "core/cPathControl.h"
 #include "data/engine/Workspace.h"
@@ -19,27 +20,11 @@
 
 namespace {
 
-QApplication& application() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    static QApplication instance(count, arguments);
-    applySkin(instance);
-    return instance;
-}
-
-std::int64_t wantedCalls() {
-    const char* text = std::getenv("CALLSCOPE_BENCH_CALLS");
-    const std::int64_t wanted = text ? std::atoll(text) : 0;
-    return wanted > 0 ? wanted : 1'000'000;
-}
-
 /// An installation whose latest project is the sample.
 class Installation {
 public:
     Installation() {
-        application();
+        applySkin(offscreenApplication<QApplication>());
         const auto sample =
             sample::makeSampleInstallation({.folder = folder_.text(), .calls = wantedCalls(), .seed = 1});
         std::ofstream history(folder_.file("app/CallHistory.csv"));

@@ -2,6 +2,7 @@
 #include "animation/AnimationSetup.h"
 #include "animation/playback/Playback.h"
 #include "animation/playback/PlaybackMap.h"
+#include "bench/BenchSupport.h"
 #include "core/ModDeclarations.h"
 #include "data/engine/Workspace.h"
 #include "map/ThematicMap.h"
@@ -20,20 +21,11 @@ namespace {
 
 constexpr QSize mapSize(1400, 1000);
 
-QGuiApplication& application() {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "bench";
-    static char* arguments[] = {name, nullptr};
-    static QGuiApplication instance(count, arguments);
-    return instance;
-}
-
 /// The sample with its project open, and a map for it.
 class Scene : public PlaybackMap {
 public:
     Scene() {
-        application();
+        offscreenApplication<QGuiApplication>();
         resetGlobals();
         resetDefaultWorkspace();
         const auto made =

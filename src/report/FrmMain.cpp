@@ -71,12 +71,7 @@ void FrmMain::Form_Load() {
 
 void FrmMain::makeLinks() {
     const auto make = [this](const char* name, const QString& caption, const QString& tip) {
-        auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
-        link->setObjectName(QString::fromLatin1(name));
-        link->setAccessibleDescription(tip);
-        link->setToolTip(tip);
-        uctFooter1->RegisterButton(link);
-        return link;
+        return uctFooter1->AddLink(name, caption, tip);
     };
     cmdImportCSV = make("cmdImportCSV", tr("Popu&lation figures"), tr("Look at population figures, or read them in"));
     cmdUserGuide = make("cmdUserGuide", tr("Us&er guide"), tr("Print the user guide"));

@@ -2,6 +2,7 @@
 
 #include "ui/DetailList.h"
 #include "ui/Skin.h"
+#include "ui/ucWebbyLink.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -99,6 +100,15 @@ void uctFooter::RegisterButton(QAbstractButton* button) {
     button->setVisible(!hiddenByWindow);
     panel_->show();
     CheckButtonWidth();
+}
+
+ucWebbyLink* uctFooter::AddLink(const char* name, const QString& caption, const QString& tip) {
+    auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
+    link->setObjectName(QString::fromLatin1(name));
+    link->setToolTip(tip);
+    link->setAccessibleDescription(tip);
+    RegisterButton(link);
+    return link;
 }
 
 void uctFooter::EnableButtons(bool enabled) {

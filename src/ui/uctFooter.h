@@ -7,6 +7,7 @@
 class DetailList;
 class QAbstractButton;
 class QPushButton;
+class ucWebbyLink;
 
 /// The band at the foot of a window: a list of details at the left, and at the right the panel of registered buttons,
 /// the help button and the exit button. Widths are device-independent pixels.
@@ -38,6 +39,8 @@ public:
 
     /// Takes a button of the window into the panel, behind those already there. A button is taken once.
     void RegisterButton(QAbstractButton* button);
+    /// Makes a link of the window and takes it in. `name` is its object name.
+    ucWebbyLink* AddLink(const char* name, const QString& caption, const QString& tip);
     /// Enables or disables all registered buttons; help and exit stay as they are.
     void EnableButtons(bool enabled);
     /// Width taken by the registered buttons that are visible.

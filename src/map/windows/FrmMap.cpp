@@ -171,12 +171,7 @@ void FrmMap::arrange() {
 
 void FrmMap::registerLinks() {
     const auto make = [this](const char* name, const QString& caption, const QString& tip) {
-        auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
-        link->setObjectName(QString::fromLatin1(name));
-        link->setToolTip(tip);
-        link->setAccessibleDescription(tip);
-        uctFooter1->RegisterButton(link);
-        return link;
+        return uctFooter1->AddLink(name, caption, tip);
     };
     lblViewMap = make("lblViewMap", tr("&View Map Data"), tr("The figures of every area in a grid"));
     lblExcel = make("lblExcel", tr("Exce&l"), tr("A workbook with a picture of this window and its parameters"));

@@ -141,12 +141,7 @@ void FrmMultiMap::arrange() {
 
 void FrmMultiMap::registerLinks() {
     const auto make = [this](const char* name, const QString& caption, const QString& tip) {
-        auto* link = new ucWebbyLink(caption, ucWebbyLink::Kind::Link, this);
-        link->setObjectName(QString::fromLatin1(name));
-        link->setToolTip(tip);
-        link->setAccessibleDescription(tip);
-        uctFooter1->RegisterButton(link);
-        return link;
+        return uctFooter1->AddLink(name, caption, tip);
     };
     alignMaps_ = make("cmdAlignMaps", tr("&Align Maps"), tr("Show in all maps what the map shows that was used last"));
     CmdExcel = make("CmdExcel", tr("Exce&l"), tr("A workbook with a picture of these maps and their parameters"));
