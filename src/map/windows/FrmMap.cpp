@@ -202,11 +202,11 @@ void FrmMap::connectControls() {
 }
 
 void FrmMap::showReport(long boundary, const ReportParameters& parameters) {
-    session_.begin(boundary, parameters);
-    listBoundaries();
-    show();
     {
         const Work work(*this);
+        session_.begin(boundary, parameters);
+        listBoundaries();
+        show();
         session_.build();
         showPanels();
     }
@@ -229,6 +229,7 @@ void FrmMap::DisableForm() {
 
 void FrmMap::EnableForm() {
     working_ = false;
+    session_.form.closeRequested = false; // it was meant for the build that has ended
     enableControls();
 }
 

@@ -91,8 +91,12 @@ void FrmMap::CmdSetUp_Click() {
 }
 
 void FrmMap::playbackChanged() {
-    if (!working_ && !session_.playback.busy())
+    if (working_)
+        return; // whoever works shows what has become of it
+    if (!session_.playback.busy()) {
+        session_.form.closeRequested = false;
         showPanels();
+    }
     refresh();
 }
 
