@@ -297,7 +297,6 @@ void FrmMap::MapSurface1_ToolBarClick(long tool) {
 }
 
 void FrmMap::MapSurface1_DrawMapFinished() {
-    fraPie->setVisible(fraPie->hasSplit() && session_.pieHasRoom());
     placePanels();
     if (working_)
         return;
@@ -362,7 +361,6 @@ void FrmMap::showTotals() {
 void FrmMap::showPanels() {
     bool failed = false;
     fraPie->setSplit(session_.split(failed));
-    fraPie->setVisible(fraPie->hasSplit() && session_.pieHasRoom());
     if (failed)
         showMessage("Could not produce pie chart for Line / Mobile / International / Other splits");
     fraOtherCallAreas->showBars(session_.bars(), session_.form.groupLabelsVisible, session_.mapType() == averageCalls);
@@ -373,9 +371,18 @@ void FrmMap::showPanels() {
 void FrmMap::placePanels() {
     const QRect room = mapSurface1_->canvas().rect().adjusted(2 * gap, 2 * gap, -2 * gap, -2 * gap);
     fraPie->resize(fraPie->sizeHint());
+    fraPie->setVisible(fraPie->hasSplit() && session_.pieHasRoom() && pieStandsOverSea());
     fraPie->move(room.right() - fraPie->width(), room.top()); // over the North Sea
     fraOtherCallAreas->adjustSize();
     fraOtherCallAreas->move(room.left(), room.bottom() - fraOtherCallAreas->height());
+}
+
+/// At full extent the country stands in the middle; a card that reaches a little over its firths hides nothing.
+bool FrmMap::pieStandsOverSea() const {
+    constexpr double widthOfHeight = 0.63, reach = 0.4;
+    const QSize room = mapSurface1_->canvas().size();
+    const double sea = (room.width() - widthOfHeight * room.height()) / 2;
+    return sea >= (1 - reach) * fraPie->width();
 }
 
 bool FrmMap::eventFilter(QObject* watched, QEvent* event) {

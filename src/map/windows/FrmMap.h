@@ -90,6 +90,7 @@ private:
     void fillMapTypes();
     void showPanels(); ///< pie and bars
     void placePanels();
+    bool pieStandsOverSea() const;
 
     MapSurfaceWidget* mapSurface1_;
     MapKey mapKey1_;

@@ -113,6 +113,17 @@ TEST_F(FrmMapTest, EveryBoundaryAndMeasureIsReachedThroughTheLists) {
     EXPECT_TRUE(prompts_.texts.empty()) << prompts_.texts.front();
 }
 
+TEST_F(FrmMapTest, ASmallWindowShowsTheCountryRatherThanThePie) {
+    show(2);
+    auto* pie = window_.findChild<CallTypePie*>("fraPie");
+    window_.resize(800, 560);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(pie->isVisible());
+    window_.resize(1280, 800);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(pie->isVisible());
+}
+
 TEST_F(FrmMapTest, AveragesRevertWhereTheyDoNotExist) {
     show(2);
     choose("cmbMapType", "Average Calls Per Caller");
