@@ -18,17 +18,13 @@
 
 namespace {
 
-/// Out of sight, without a flicker, as long as it lives.
+/// Out of sight as long as it lives, which is too short for a repaint.
 class Hidden {
 public:
     Hidden(QWidget& window, std::initializer_list<QWidget*> controls) : window_(window), controls_(controls) {
-        window_.setUpdatesEnabled(false);
         show(false);
     }
-    ~Hidden() {
-        show(true);
-        window_.setUpdatesEnabled(true);
-    }
+    ~Hidden() { show(true); }
     Hidden(const Hidden&) = delete;
     Hidden& operator=(const Hidden&) = delete;
 
