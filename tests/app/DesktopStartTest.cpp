@@ -74,7 +74,9 @@ TEST_F(Desktop, ShowsTheMainWindowAndEndsWithIt) {
             if (window->objectName() == "FrmMain")
                 window->close();
     });
-    QTimer::singleShot(5000, qApp, [] { QApplication::exit(99); }); // where there is no such window
+    QTimer noSuchWindow; // it must not end the loops of later tests
+    QObject::connect(&noSuchWindow, &QTimer::timeout, [] { QApplication::exit(99); });
+    noSuchWindow.start(5000);
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_FALSE(actions.mainWindowIsOpen());
     EXPECT_FALSE(gdbSystem);
