@@ -8,11 +8,8 @@
 #include "groups/windows/frmGroupSaveQuery.h"
 #include "groups/windows/frmGroupSelection.h"
 #include "map/surface/windows/MapSurfaceWidget.h"
-#include "report/CaptureProject.h"
-#include "report/OpenInstallation.h"
-#include "sample/installation/SampleInstallation.h"
+#include "tests/support/CapturedSample.h"
 #include "tests/support/ScriptedPrompts.h"
-#include "tests/support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -60,19 +57,8 @@ OnNext<QMenu> choosing(const QString& action) {
 /// The group tools on a captured sample whose groups of postcode districts have been brought in.
 class GroupTools : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        folder_ = new TemporaryFolder;
-        const auto sample = sample::makeSampleInstallation({.folder = folder_->text(), .calls = 2'000, .seed = 3});
-        openInstallation(folder_->text());
-        gsFontName = "Calibri";
-        openProject(sample.projectPath);
-        captureProject();
-    }
-    static void TearDownTestSuite() {
-        resetGlobals();
-        resetDefaultWorkspace();
-        delete folder_;
-    }
+    static void SetUpTestSuite() { sample_ = new CapturedSample(2'000, 3); }
+    static void TearDownTestSuite() { delete sample_; }
 
     GroupTools() {
         prompts_.answers = {PromptAnswer::Yes, PromptAnswer::Yes};
@@ -128,7 +114,7 @@ protected:
     }
     std::string name(int group) { return list().topLevelItem(group)->text(0).toStdString(); }
 
-    inline static TemporaryFolder* folder_ = nullptr;
+    inline static CapturedSample* sample_ = nullptr;
     ScriptedPrompts prompts_;
     long kind_ = 0;
     std::unique_ptr<frmGroups> window_;

@@ -11,13 +11,10 @@
 #include "map/surface/windows/MapToolBar.h"
 #include "map/windows/CallTypePie.h"
 #include "map/windows/FrmCallDetail.h"
-#include "report/CaptureProject.h"
-#include "report/OpenInstallation.h"
 #include "report/ReportRun.h"
-#include "sample/installation/SampleInstallation.h"
 #include "stats/CurrentTables.h"
+#include "tests/support/CapturedSample.h"
 #include "tests/support/ScriptedPrompts.h"
-#include "tests/support/TemporaryFolder.h"
 #include "ui/OpenDocument.h"
 
 #include <gtest/gtest.h>
@@ -42,19 +39,8 @@ namespace {
 /// The map of a captured sample project, shown at a size that a small screen has.
 class FrmMapTest : public testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        folder_ = new TemporaryFolder;
-        const auto sample = sample::makeSampleInstallation({.folder = folder_->text(), .calls = 5'000, .seed = 2});
-        openInstallation(folder_->text());
-        gsFontName = "Calibri";
-        openProject(sample.projectPath);
-        captureProject();
-    }
-    static void TearDownTestSuite() {
-        resetGlobals();
-        resetDefaultWorkspace();
-        delete folder_;
-    }
+    static void SetUpTestSuite() { sample_ = new CapturedSample(5'000, 2); }
+    static void TearDownTestSuite() { delete sample_; }
 
     FrmMapTest() { window_.resize(1280, 760); }
 
@@ -78,7 +64,7 @@ protected:
     MapSurface& surface() { return window_.MapSurface1()->surface(); }
     bool labelsAreOn() { return surface().scene().layers.back().LayerVisible; }
 
-    inline static TemporaryFolder* folder_ = nullptr;
+    inline static CapturedSample* sample_ = nullptr;
     ScriptedPrompts prompts_;
     FrmMap window_;
 };
