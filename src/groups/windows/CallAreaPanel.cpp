@@ -18,7 +18,10 @@ QString barPicture() {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     swatch(Qt::white, hintBar).save(&buffer, "PNG");
-    return QStringLiteral("<img src=\"data:image/png;base64,%1\"/>").arg(QString::fromLatin1(bytes.toBase64()));
+    return QStringLiteral("<img width=\"%1\" height=\"%2\" src=\"data:image/png;base64,%3\"/>")
+        .arg(hintBar.width())
+        .arg(hintBar.height())
+        .arg(QString::fromLatin1(bytes.toBase64()));
 }
 
 } // namespace
