@@ -250,4 +250,54 @@ TEST_F(GroupTools, LeavingAsksWhereChangesWouldBeLost) {
     EXPECT_FALSE(window_->isVisible());
 }
 
+TEST_F(GroupTools, CallsWithoutAPlaceJoinAGroupByTheirBars) {
+    select(1);
+    {
+        const auto menu = choosing("mnuGroupAddArea");
+        button("ucwlMobileText").click();
+        QTest::qWait(60);
+        EXPECT_TRUE(menu.seen);
+    }
+    EXPECT_EQ(groupOf("Mobile"), name(1));
+    EXPECT_EQ(window_->editor().callAreas()[0].colour, window_->editor().groups()[1].colour);
+    {
+        const auto menu = choosing("mnuGroupDeleteArea");
+        button("ucwlMobileBar").click();
+        QTest::qWait(60);
+    }
+    EXPECT_EQ(groupOf("Mobile"), "");
+}
+
+TEST_F(GroupTools, ADrawingNeedsASelectedGroupAndAreas) {
+    window_->MapSurface1()->surface().setUIMode(MapTool::PolygonQuery);
+    emit window_->MapSurface1()->MapMouseDown(1, 0, 10, 10);
+    QTest::qWait(30);
+    ASSERT_EQ(prompts_.texts.size(), 1U);
+    EXPECT_TRUE(prompts_.texts[0].starts_with("Please select a group from"));
+    select(0);
+    const auto menu = choosing("mnuGroupAddArea");
+    emit window_->MapSurface1()->MapMouseDown(1, 0, 10, 10);
+    emit window_->MapSurface1()->MapMouseUp(1, 0, 12, 10);
+    QTest::qWait(80);
+    EXPECT_EQ(prompts_.texts.back(), "No areas have been selected to add to the group");
+    EXPECT_FALSE(button("lblSave").isEnabled());
+}
+
+/// The last of these tests: the groups are gone for good.
+TEST_F(GroupTools, RemovingAllGroupsLeavesAnEmptyListOfTheKindThatIsChosenNext) {
+    button("cmdDeleteAll").click(); // answered with No
+    settle();
+    EXPECT_GT(list().topLevelItemCount(), 0);
+    prompts_.answers = {PromptAnswer::Yes};
+    prompts_.options = {1}; // TV regions
+    button("cmdDeleteAll").click();
+    settle();
+    EXPECT_TRUE(window_->isVisible());
+    EXPECT_EQ(list().topLevelItemCount(), 0);
+    EXPECT_EQ(window_->editor().DataType, 2);
+    EXPECT_FALSE(button("cmdDeleteAll").isEnabled() || button("cmdDeleteGroup").isEnabled());
+    EXPECT_FALSE(button("lblSave").isEnabled());
+    EXPECT_EQ(countOf(customerGroupsDatabase(), "SELECT COUNT(*) FROM TblGroups WHERE GroupName <> ''"), 0);
+}
+
 } // namespace
